@@ -29,6 +29,7 @@ function(orvel_program name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS")
     file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp")
     add_executable(${name} ${sources})
+    target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")
     target_link_libraries(${name} PRIVATE OrvelOptions ${arg_LINKS})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${ORVEL_PRODUCTS}/OrvelWidgets.appex")
     add_custom_command(TARGET ${name} POST_BUILD

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <filesystem>
+
+namespace orvel {
+
+/// The user's folder for data of applications: `$XDG_DATA_HOME` when that is an absolute path, else `~/.local/share`.
+/// It need not exist.
+std::filesystem::path applicationSupport();
+
+}

@@ -1,0 +1,136 @@
+"""What orvelctl answers to calls from a shell: texts, JSON, faults and exit codes."""
+
+import json
+import os
+import subprocess
+import sys
+import tempfile
+import unittest
+
+PROGRAM = sys.argv.pop(1)
+NOW = "2026-03-04T09:48:30.250Z"
+BERLIN = ["--time-zone", "Europe/Berlin"]
+
+
+def call(*arguments, stdin=b"", **environment):
+    return subprocess.run([PROGRAM, *arguments], input=stdin, capture_output=True, timeout=60,
+                          env={**os.environ, **environment})
+
+
+class OrvelctlTests(unittest.TestCase):
+    def setUp(self):
+        self.folder = tempfile.TemporaryDirectory()
+        self.addCleanup(self.folder.cleanup)
+
+    def file(self, content):
+        path = os.path.join(self.folder.name, "widgets.json")
+        with open(path, "wb") as file:
+            file.write(content)
+        return path
+
+    def sample(self, state="now"):
+        result = call("snapshot", "sample", "--state", state, "--now", NOW, *BERLIN)
+        self.assertEqual((result.returncode, result.stderr), (0, b""))
+        return result.stdout
+
+    def assert_fails(self, result, code, *texts):
+        self.assertEqual(result.returncode, code, result)
+        self.assertEqual(result.stdout, b"")
+        self.assertEqual(result.stderr.count(b"\n"), 1, result.stderr)
+        for text in texts:
+            self.assertIn(text, result.stderr.decode())
+
+    def test_a_sample_is_printed_byte_for_byte_and_checks_in_silence(self):
+        for state in ["now", "next", "focus", "paused", "none", "breathe", "block", "focusFilter", "nothingScheduled",
+                      "noBlocks"]:
+            sample = self.sample(state)
+            path = self.file(sample)
+            self.assertEqual(call("snapshot", "print", path).stdout, sample)
+            self.assertEqual(call("snapshot", "print", "-", stdin=b"\xef\xbb\xbf" + sample + b"\n").stdout, sample)
+            checked = call("snapshot", "check", path)
+            self.assertEqual((checked.returncode, checked.stdout, checked.stderr), (0, b"", b""))
+
+    def test_a_bad_snapshot_is_told_by_file_and_place(self):
+        path = self.file(self.sample().replace(b'"level":"firm"', b'"level":"Firm"', 1))
+        for result in [call("snapshot", "check", path), call("snapshot", "print", path),
+                       call("timeline", "--snapshot", path), call("timeline", "--snapshot", path, "--or-sample")]:
+            self.assert_fails(result, 1, path, 'blocks[0].level: unknown level "Firm"')
+        report = json.loads(call("snapshot", "check", path, "--json").stdout)
+        self.assertEqual(report, {"isGood": False, "where": path, "why": 'blocks[0].level: unknown level "Firm"'})
+        self.assert_fails(call("snapshot", "check", path + ".missing"), 1, "No such file")
+        self.assert_fails(call("snapshot", "check", self.folder.name), 1, "not a regular file")
+        self.assert_fails(call("snapshot", "check", "-", stdin=b"{"), 1, "standard input", "malformed JSON")
+
+    def test_a_timeline_in_json_has_the_records_fields(self):
+        path = self.file(self.sample("focus"))
+        answer = json.loads(call("timeline", "--snapshot", path, "--now", NOW, *BERLIN, "--why", "--json").stdout)
+        first, second = answer["entries"][:2]
+        self.assertEqual(first["date"], NOW)
+        self.assertEqual(first["moment"]["date"], NOW)
+        self.assertEqual(first["moment"]["focus"], first["moment"]["state"]["focus"]["_0"])
+        self.assertNotIn("unlock", first["moment"]["focus"])
+        self.assertEqual(first["moment"]["today"]["start"], "2026-03-03T23:00:00Z")
+        self.assertEqual(first["why"], [{"rule": "now"}])
+        self.assertEqual(second["date"], "2026-03-04T09:49:00Z")
+        self.assertEqual(second["why"], [{"minutesLeft": 37, "name": "Focus", "phase": 0, "rule": "countdown"}])
+        self.assertEqual(answer["reload"], answer["entries"][-1]["date"])
+        plain = json.loads(call("timeline", "--snapshot", path, "--now", NOW, *BERLIN, "--json").stdout)
+        self.assertNotIn("why", plain["entries"][0])
+        self.assertEqual([entry["moment"] for entry in plain["entries"]], [entry["moment"] for entry in answer["entries"]])
+
+    def test_a_timeline_for_a_person_has_local_times_and_reasons(self):
+        path = self.file(self.sample().replace(b'"name":"Morning"', b'"name":"M\\u001b[31m"'))
+        text = call("timeline", "--snapshot", path, "--now", NOW, *BERLIN, "--why").stdout.decode()
+        lines = text.splitlines()
+        self.assertEqual(lines[0], f"Snapshot: {path}")
+        self.assertRegex(lines[2], r"^Wed 2026-03-04  10:48:30 CET  Block M\ufffd\[31m +now$")
+        self.assertRegex(lines[3], r"^ {16}10:49:00 CET  Block M\ufffd\[31m +71 min left of M\ufffd\[31m$")
+        self.assertIn("midnight", text)
+        self.assertRegex(lines[-1], r"^Reload after Fri 2026-03-06 12:00:00 CET$")
+
+    def test_without_a_snapshot_it_says_so_or_shows_a_sample(self):
+        empty = os.path.join(self.folder.name, "data")
+        self.assert_fails(call("timeline", XDG_DATA_HOME=empty), 1, "widgets.json", "No such file")
+        result = call("timeline", "--or-sample", "--now", NOW, XDG_DATA_HOME=empty)
+        self.assertEqual(result.returncode, 0)
+        self.assertIn("Group Containers/K4Q7M2XR9T.app.orvel.mac/widgets.json", result.stdout.decode().splitlines()[0])
+        self.assertFalse(os.path.exists(empty))
+
+    def test_links_go_both_ways(self):
+        self.assertEqual(call("link", "make", "breathe", "--style", "a b", "--minutes", "-3").stdout,
+                         b"orvel://breathe?style=a%20b&minutes=-3\n")
+        self.assertEqual(call("link", "make", "today", "--scheme", "x-y").stdout, b"x-y://today\n")
+        parsed = call("link", "parse", "--json", "any://breathe?style=&minutes=+5").stdout
+        self.assertEqual(json.loads(parsed), {"case": "breathe", "minutes": 5, "style": ""})
+        self.assertEqual(call("link", "parse", "nonsense").stdout, b"case     main\n")
+
+    def test_a_wrong_call_is_one_line_and_code_2(self):
+        for arguments, text in [
+            ([], "a command is missing"),
+            (["nonsense"], "nonsense"),
+            (["link"], "a command is missing"),
+            (["link", "nonsense"], "nonsense"),
+            (["timeline", "--nonsense"], "--nonsense"),
+            (["timeline", "--now", "yesterday"], "yesterday"),
+            (["timeline", "--now", "2026-02-30T00:00:00Z"], "2026-02-30"),
+            (["timeline", "--time-zone", "Mars/Olympus"], "Mars/Olympus"),
+            (["timeline", "--time-zone", "../../etc/passwd"], "passwd"),
+            (["timeline", "--time-zone", "x\ny"], "x\ufffdy"),
+            (["snapshot", "sample", "--state", "bored"], "bored"),
+            (["snapshot", "check"], "file"),
+            (["link", "make", "moon"], "moon"),
+            (["link", "make", "breathe", "--minutes", "few"], "few"),
+            (["link", "make", "focus", "--minutes", "3"], "breathe only"),
+        ]:
+            self.assert_fails(call(*arguments), 2, text)
+        self.assertEqual(call("--help").returncode, 0)
+
+    def test_output_that_nobody_takes_is_a_fault(self):
+        with open("/dev/full", "wb") as full:
+            result = subprocess.run([PROGRAM, "snapshot", "sample"], stdout=full, stderr=subprocess.PIPE, timeout=60)
+        self.assertEqual(result.returncode, 1)
+        self.assertIn(b"standard output", result.stderr)
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,78 @@
+#include "Tools/orvelctl/Command.h"
+
+#include <cstdio>
+#include <fmt/format.h>
+
+namespace orvelctl {
+
+void runs(CLI::App* command, Action& action, Action what)
+{
+    command->callback([&action, what = std::move(what)] { action = what; });
+}
+
+void addDateOption(CLI::App* command, std::string_view name, std::optional<orvel::Date>& date, const std::string& what)
+{
+    const std::string option(name);
+    command
+        ->add_option_function<std::string>(
+            option,
+            [&date, option](const std::string& text) {
+                date = orvel::dateFromISO8601WithFraction(text);
+                if (!date)
+                    throw CLI::ValidationError(
+                        option, fmt::format("\"{}\" is no date such as 2026-03-02T09:00:00Z", printable(text)));
+            },
+            what)
+        ->type_name("DATE");
+}
+
+void addTimeZoneOption(CLI::App* command, std::optional<orvel::TimeZone>& zone)
+{
+    command
+        ->add_option_function<std::string>(
+            "--time-zone",
+            [&zone](const std::string& text) {
+                zone = orvel::TimeZone::named(text);
+                if (!zone)
+                    throw CLI::ValidationError(
+                        "--time-zone", fmt::format("\"{}\" is no zone such as Europe/Berlin", printable(text)));
+            },
+            "The zone of days and clock times; without it yours")
+        ->type_name("ZONE");
+}
+
+orvel::Calendar calendar(const std::optional<orvel::TimeZone>& zone)
+{
+    return zone ? orvel::Calendar(*zone) : orvel::Calendar::current();
+}
+
+Exit print(std::string_view text)
+{
+    const auto isWritten = std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0;
+    return isWritten ? Exit::done : fail("standard output cannot be written");
+}
+
+Exit fail(std::string_view message, Exit exit)
+{
+    fmt::print(stderr, "orvelctl: {}\n", message);
+    return exit;
+}
+
+std::string printable(std::string_view text)
+{
+    std::string line;
+    for (std::size_t index = 0; index < text.size(); ++index) {
+        const auto byte = static_cast<unsigned char>(text[index]);
+        const auto isSecondControl =
+            byte == 0xC2 && index + 1 < text.size() && static_cast<unsigned char>(text[index + 1]) < 0xA0;
+        if (byte < 0x20 || byte == 0x7F || isSecondControl) {
+            line += "\uFFFD";
+            index += isSecondControl ? 1 : 0;
+        } else {
+            line += text[index];
+        }
+    }
+    return line;
+}
+
+}

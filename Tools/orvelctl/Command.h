@@ -1,0 +1,53 @@
+#pragma once
+
+#include <CLI/App.hpp>
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "OrvelPlatform/Base/Calendar.h"
+#include "OrvelPlatform/Base/Date.h"
+#include "OrvelPlatform/Base/Fault.h"
+
+namespace orvelctl {
+
+/// How a call ends, as its exit status.
+enum class Exit : int {
+    done = 0,
+    no = 1, // the answer is "no", or the data is bad
+    wrongCall = 2,
+};
+
+/// The command that the call names, to be run once the whole call has been understood.
+using Action = std::function<Exit()>;
+
+/// Each adds one command; parsing it sets `action`.
+void addTimelineCommand(CLI::App& app, Action& action);
+void addLinkCommand(CLI::App& app, Action& action);
+void addSnapshotCommand(CLI::App& app, Action& action);
+
+/// Makes `command` set `action` when the call names it.
+void runs(CLI::App* command, Action& action, Action what);
+
+/// `--now T`, `--at T`: a date in ISO 8601, to the microsecond.
+void addDateOption(CLI::App* command, std::string_view name, std::optional<orvel::Date>& date, const std::string& what);
+
+/// `--time-zone Z`: a name of the zone database; without it the user's own zone.
+void addTimeZoneOption(CLI::App* command, std::optional<orvel::TimeZone>& zone);
+
+/// The calendar of a zone, or the user's.
+orvel::Calendar calendar(const std::optional<orvel::TimeZone>& zone);
+
+/// Writes all of `text` to standard output. Output that nobody can take is bad news too.
+Exit print(std::string_view text);
+
+/// One line on standard error.
+Exit fail(std::string_view message, Exit exit = Exit::no);
+
+/// Text of unknown origin for one line of a terminal: control characters are shown, not obeyed.
+std::string printable(std::string_view text);
+
+}
