@@ -27,7 +27,8 @@ public:
     /// it can change while a process lives. What cannot be understood is UTC, as it is to the C library.
     static TimeZone current();
 
-    /// The zone that a value of TZ means; `nullptr` stands for a variable that is not set.
+    /// The zone that a value of TZ means; `nullptr` stands for a variable that is not set. A POSIX rule holds from the
+    /// year 1900 on, with standard time before. Zones that count leap seconds ("right/…") are not understood.
     static TimeZone forSetting(const char* setting);
 
     /// The name that the zone was asked for by: a database name where there is one, else the rule or the path.
@@ -60,12 +61,19 @@ public:
     };
     Instants instants(WallTime wallTime) const;
 
-    /// The first instant after `date` at which the rules change what clocks show, if there is one.
+    /// The first instant after `date` at which the rules change what clocks show, if there is one up to the
+    /// year 9999.
     std::optional<Date> nextChange(Date date) const;
+
+    /// The same name and the same rules: what was worked out for one zone holds for the other. A zone whose file was
+    /// replaced is unequal to the one before.
+    friend bool operator==(const TimeZone& left, const TimeZone& right);
 
 private:
     struct Rules;
     explicit TimeZone(std::shared_ptr<const Rules> rules);
+    static std::optional<TimeZone> make(std::string_view name, const std::optional<std::string>& zoneData);
+    static std::optional<TimeZone> atPath(std::string_view path);
 
     std::shared_ptr<const Rules> m_rules;
 };
