@@ -183,7 +183,8 @@ TimeZone TimeZone::forSetting(const char* setting)
         return atPath(value).value_or(utc());
     if (auto zone = named(value))
         return *std::move(zone);
-    return value.size() > maximumNameLength ? utc() : make(value, zoneDataFromRule(value)).value_or(utc());
+    const auto rule = value.size() > maximumNameLength ? std::nullopt : posixRule(value);
+    return make(value, rule.transform(zoneDataFromRule)).value_or(utc());
 }
 
 const std::string& TimeZone::name() const

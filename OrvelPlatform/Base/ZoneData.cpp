@@ -1,8 +1,5 @@
 #include "OrvelPlatform/Base/ZoneData.h"
 
-#include <algorithm>
-#include <array>
-#include <charconv>
 #include <chrono>
 #include <cstdint>
 #include <utility>
@@ -15,9 +12,6 @@ namespace {
 
 /// Far above every real zone, of which the longest has 4 kB.
 constexpr std::size_t maximumFileSize = 1 << 20;
-
-/// When summer time begins and ends where a rule leaves it open.
-constexpr std::string_view defaultStart = ",M3.2.0", defaultEnd = ",M11.1.0";
 
 /// The numbers of a TZif header, in its order.
 struct Counts {
@@ -73,85 +67,6 @@ void appendHeader(std::string& bytes, const Counts& counts)
         appendBigEndian(bytes, count, 4);
 }
 
-/// What a POSIX rule begins with, such as "CET-1" or "<+0330>-3:30".
-struct StandardTime {
-    std::string_view name;
-    std::chrono::seconds offset; // east of UTC: the opposite of what the rule writes
-    std::string_view rest;
-};
-
-bool isLetter(char character)
-{
-    return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
-}
-
-/// Takes a number off the front of a text; absent where there is none or one above `maximum`.
-std::optional<int> takeNumber(std::string_view& text, int maximum)
-{
-    auto value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error != std::errc {} || value < 0 || value > maximum)
-        return std::nullopt;
-    text.remove_prefix(static_cast<std::size_t>(end - text.data()));
-    return value;
-}
-
-/// Takes "[±]hh[:mm[:ss]]" off the front of a text.
-std::optional<std::chrono::seconds> takeOffset(std::string_view& text)
-{
-    const auto isSigned = text.starts_with('-') || text.starts_with('+');
-    const auto sign = text.starts_with('-') ? -1 : 1;
-    if (isSigned)
-        text.remove_prefix(1);
-    const auto hours = takeNumber(text, 24);
-    if (!hours)
-        return std::nullopt;
-    std::chrono::seconds offset = std::chrono::hours { *hours };
-    for (const std::chrono::seconds unit : { std::chrono::seconds { 60 }, std::chrono::seconds { 1 } }) {
-        if (!text.starts_with(':'))
-            break;
-        text.remove_prefix(1);
-        const auto number = takeNumber(text, 59);
-        if (!number)
-            return std::nullopt;
-        offset += *number * unit;
-    }
-    return sign * offset;
-}
-
-std::optional<StandardTime> standardTime(std::string_view rule)
-{
-    const auto isQuoted = rule.starts_with('<');
-    const auto nameEnd =
-        isQuoted ? rule.find('>') : static_cast<std::size_t>(std::ranges::find_if_not(rule, isLetter) - rule.begin());
-    if (nameEnd == std::string_view::npos)
-        return std::nullopt;
-    const auto name = isQuoted ? rule.substr(1, nameEnd - 1) : rule.substr(0, nameEnd);
-    auto rest = rule.substr(nameEnd + (isQuoted ? 1 : 0));
-    const auto offset = takeOffset(rest);
-    if (name.size() < 3 || !offset)
-        return std::nullopt;
-    return StandardTime { name, -*offset, rest };
-}
-
-/// Whether a rule says when summer time begins and ends, if it has one.
-bool isComplete(const StandardTime& standard)
-{
-    return standard.rest.empty() || std::ranges::count(standard.rest, ',') == 2;
-}
-
-/// The rule with the dates that the C library takes where they are missing.
-std::string withDates(std::string_view rule, const StandardTime& standard)
-{
-    std::string full(rule);
-    const auto dates = std::ranges::count(standard.rest, ',');
-    if (!standard.rest.empty() && dates == 0)
-        full += defaultStart;
-    if (!standard.rest.empty() && dates < 2)
-        full += defaultEnd;
-    return full;
-}
-
 /// Whether data holds what its headers announce. From version 2 on, the first block is a copy with short instants for
 /// old readers, and may be empty; after the second stands the rule for what lies beyond the last change, in a line.
 bool isWhole(std::string_view bytes)
@@ -167,8 +82,8 @@ bool isWhole(std::string_view bytes)
     if (bytes.size() < 2 || !bytes.starts_with('\n') || !bytes.ends_with('\n'))
         return false;
     const auto rule = bytes.substr(1, bytes.size() - 2);
-    const auto standard = standardTime(rule);
-    return rule.empty() || (standard && isComplete(*standard));
+    const auto read = posixRule(rule);
+    return rule.empty() || (read && read->text == rule);
 }
 
 }
@@ -181,26 +96,22 @@ std::optional<std::string> zoneDataFromFile(const std::filesystem::path& path)
     return *std::move(bytes);
 }
 
-std::optional<std::string> zoneDataFromRule(std::string_view rule)
+std::string zoneDataFromRule(const PosixRule& rule)
 {
-    const auto isPrintable = [](char character) { return character > ' ' && character <= '~'; };
-    const auto standard = std::ranges::all_of(rule, isPrintable) ? standardTime(rule) : std::nullopt;
-    if (!standard)
-        return std::nullopt;
     const std::chrono::sys_seconds start = std::chrono::sys_days { std::chrono::year { 1900 } / 1 / 1 };
-    const Counts counts { .times = 1, .types = 1, .characters = static_cast<std::uint32_t>(standard->name.size() + 1) };
+    const auto characters = static_cast<std::uint32_t>(rule.standardName.size() + 1);
 
     std::string bytes;
     appendHeader(bytes, {});
-    appendHeader(bytes, counts);
+    appendHeader(bytes, { .times = 1, .types = 1, .characters = characters });
     appendBigEndian(bytes, start.time_since_epoch().count(), 8);
     appendBigEndian(bytes, 0, 1); // from then on the first type …
-    appendBigEndian(bytes, standard->offset.count(), 4); // … which has this offset,
+    appendBigEndian(bytes, rule.standardOffset.count(), 4); // … which has this offset,
     appendBigEndian(bytes, 0, 1); // is no summer time
     appendBigEndian(bytes, 0, 1); // and has the first name;
-    bytes.append(standard->name).append(1, '\0');
-    bytes.append("\n").append(withDates(rule, *standard)).append("\n"); // then the rule holds
-    return isWhole(bytes) ? std::optional(std::move(bytes)) : std::nullopt;
+    bytes.append(rule.standardName).append(1, '\0');
+    bytes.append("\n").append(rule.text).append("\n"); // then the rule holds
+    return bytes;
 }
 
 }
