@@ -52,6 +52,12 @@ public:
         return write(rawValue(value));
     }
 
+    template <JsonWrittenText Value>
+    bool write(const Value& value)
+    {
+        return write(JsonForm<Value>::text(value));
+    }
+
     template <typename Element>
     bool write(const std::vector<Element>& values)
     {

@@ -70,6 +70,12 @@ concept JsonRawValue = requires
     JsonForm<Value>::noun;
 };
 
+template <typename Value>
+concept JsonWrittenText = requires(const Value& value)
+{
+    JsonForm<Value>::text(value);
+};
+
 /// Whether the keys of a record ascend, so that writing them in this order is writing them sorted.
 template <JsonRecord Record>
 consteval bool jsonKeysAscend()

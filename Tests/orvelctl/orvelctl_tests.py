@@ -83,10 +83,41 @@ class OrvelctlTests(unittest.TestCase):
         text = call("timeline", "--snapshot", path, "--now", NOW, *BERLIN, "--why").stdout.decode()
         lines = text.splitlines()
         self.assertEqual(lines[0], f"Snapshot: {path}")
-        self.assertRegex(lines[2], r"^Wed 2026-03-04  10:48:30 CET  Block M\ufffd\[31m +now$")
-        self.assertRegex(lines[3], r"^ {16}10:49:00 CET  Block M\ufffd\[31m +71 min left of M\ufffd\[31m$")
+        self.assertRegex(lines[2], r"^Wed 2026-03-04  10:48:30 CET  Morning · Deep work  Until 12:00 .* left +now$")
+        self.assertRegex(lines[3], r"^ {16}10:49:00 CET  Morning · .* +71 min left of M\ufffd\[31m$")
         self.assertIn("midnight", text)
         self.assertRegex(lines[-1], r"^Reload after Fri 2026-03-06 12:00:00 CET$")
+
+    def test_cards_show_what_widgets_and_controls_say(self):
+        path = self.file(self.sample("focus"))
+        call_ = ["timeline", "--cards", "--snapshot", path, "--now", NOW, *BERLIN]
+        english = call(*call_, LC_ALL="", LANG="en_GB.UTF-8", LANGUAGE="").stdout.decode()
+        for text in ["│ 38 min left ", "Ends at 11:26 · Social, Chat", "3 breaths   7 min breathed   12 stayed off",
+                     "[W]", "│ Breathe now ", "[x] Focus now  38 min left", "( ) Breathe now  3 min · Calm"]:
+            self.assertIn(text, english)
+        widths = {len(line) for line in english.splitlines() if line[:1] in "╭│╰"}
+        self.assertLessEqual(len(widths), 2, english)
+        german = call(*call_, LC_ALL="", LANG="de_DE.UTF-8", LANGUAGE="").stdout.decode()
+        self.assertIn("Endet um 11:26 · Social, Chat", german)
+
+    def test_contents_in_json_have_the_records_fields(self):
+        path = self.file(self.sample("focus"))
+        options = ["--snapshot", path, "--at", NOW, *BERLIN, "--locale", "en_GB", "--json"]
+        content = json.loads(call("content", *options).stdout)
+        self.assertEqual(content["link"], "orvel://today")
+        self.assertEqual(content["state"], "focus")
+        self.assertEqual(content["numbers"][0], {"label": "breaths", "value": "3"})
+        self.assertEqual(content["week"][-1], {"height": 0.5, "isToday": True, "label": "W"})
+        breathe = json.loads(call("content", "--widget", "breathe", *options).stdout)
+        self.assertEqual(breathe["link"], "orvel://breathe?style=calm&minutes=3")
+        self.assertNotIn("kicker", breathe)
+        self.assertNotIn("progress", breathe)
+        focus = json.loads(call("control", "focus", *options).stdout)
+        self.assertEqual(focus, {"barText": "38m", "isOn": True, "kind": "focus", "spokenState": "on, 38 minutes left",
+                                 "symbol": "timer", "title": "Focus now", "value": "38 min left"})
+        self.assertEqual(json.loads(call("control", "breathe", *options).stdout)["value"], "3 min · Calm")
+        german = json.loads(call("content", *options[:-2], "de-CH", "--json").stdout)
+        self.assertEqual(german["kicker"], "Fokus")
 
     def test_without_a_snapshot_it_says_so_or_shows_a_sample(self):
         empty = os.path.join(self.folder.name, "data")
@@ -116,6 +147,9 @@ class OrvelctlTests(unittest.TestCase):
             (["timeline", "--time-zone", "Mars/Olympus"], "Mars/Olympus"),
             (["timeline", "--time-zone", "../../etc/passwd"], "passwd"),
             (["timeline", "--time-zone", "x\ny"], "x\ufffdy"),
+            (["timeline", "--locale", "no_such locale"], "no_such locale"),
+            (["content", "--widget", "clock"], "clock"),
+            (["control", "volume"], "volume"),
             (["snapshot", "sample", "--state", "bored"], "bored"),
             (["snapshot", "check"], "file"),
             (["link", "make", "moon"], "moon"),

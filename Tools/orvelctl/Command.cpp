@@ -41,6 +41,21 @@ void addTimeZoneOption(CLI::App* command, std::optional<orvel::TimeZone>& zone)
         ->type_name("ZONE");
 }
 
+void addLocaleOption(CLI::App* command, std::optional<orvel::Locale>& locale)
+{
+    command
+        ->add_option_function<std::string>(
+            "--locale",
+            [&locale](const std::string& text) {
+                locale = orvel::Locale::named(text);
+                if (!locale)
+                    throw CLI::ValidationError(
+                        "--locale", fmt::format("\"{}\" is no locale such as de-DE or de_DE.UTF-8", printable(text)));
+            },
+            "The language of words, times and lists; without it yours")
+        ->type_name("LOCALE");
+}
+
 orvel::Calendar calendar(const std::optional<orvel::TimeZone>& zone)
 {
     return zone ? orvel::Calendar(*zone) : orvel::Calendar::current();

@@ -11,6 +11,7 @@
 #include "OrvelPlatform/Base/Calendar.h"
 #include "OrvelPlatform/Base/Date.h"
 #include "OrvelPlatform/Base/Fault.h"
+#include "OrvelPlatform/Base/Locale.h"
 
 namespace orvelctl {
 
@@ -28,6 +29,8 @@ using Action = std::function<Exit()>;
 void addTimelineCommand(CLI::App& app, Action& action);
 void addLinkCommand(CLI::App& app, Action& action);
 void addSnapshotCommand(CLI::App& app, Action& action);
+void addContentCommand(CLI::App& app, Action& action);
+void addControlCommand(CLI::App& app, Action& action);
 
 /// Makes `command` set `action` when the call names it.
 void runs(CLI::App* command, Action& action, Action what);
@@ -37,6 +40,9 @@ void addDateOption(CLI::App* command, std::string_view name, std::optional<orvel
 
 /// `--time-zone Z`: a name of the zone database; without it the user's own zone.
 void addTimeZoneOption(CLI::App* command, std::optional<orvel::TimeZone>& zone);
+
+/// `--locale L`: the language of words and the habits of formats; without it the user's own of each.
+void addLocaleOption(CLI::App* command, std::optional<orvel::Locale>& locale);
 
 /// The calendar of a zone, or the user's.
 orvel::Calendar calendar(const std::optional<orvel::TimeZone>& zone);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "OrvelPlatform/Base/Calendar.h"
+#include "OrvelPlatform/Base/Locale.h"
 #include "OrvelShared/TimelineReason.h"
 #include "OrvelShared/WidgetSnapshot.h"
 #include "OrvelWidgets/OrvelEntry.h"
@@ -22,7 +23,7 @@ struct TimelineReport {
 /// For a program. A fault where the record holds what JSON cannot show.
 std::expected<std::string, orvel::Fault> asJson(const TimelineReport& report);
 
-/// For a person: one line an entry, with clock times in the calendar's zone.
-std::string asText(const TimelineReport& report, const orvel::Calendar& calendar);
+/// For a person: one line an entry, with clock times in the calendar's zone and the status widget's title and detail.
+std::string asText(const TimelineReport& report, const orvel::Locale& locale, const orvel::Calendar& calendar);
 
 }

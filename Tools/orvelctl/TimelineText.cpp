@@ -3,6 +3,7 @@
 #include <fmt/ranges.h>
 
 #include "OrvelPlatform/Base/Match.h"
+#include "OrvelWidgetsUI/WidgetContent.h"
 #include "Tools/orvelctl/Command.h"
 #include "Tools/orvelctl/PhaseName.h"
 #include "Tools/orvelctl/Table.h"
@@ -34,14 +35,6 @@ std::string timeText(Date date, const orvel::Calendar& calendar)
         calendar.timeZone().abbreviation(date));
 }
 
-std::string stateText(const orvel::WidgetMoment& moment)
-{
-    const auto name = phaseName(moment.state);
-    const auto kind = phaseKind(moment.state);
-    const auto state = name ? fmt::format("{} {}", kind, printable(*name)) : std::string(kind);
-    return moment.isRunning ? state : fmt::format("paused ({})", state);
-}
-
 std::string nameOrKind(const orvel::WidgetSnapshot& snapshot, std::size_t phase)
 {
     const auto& state = snapshot.phases[phase].state;
@@ -66,15 +59,16 @@ std::string reasonText(const TimelineReason::Any& any, const orvel::WidgetSnapsh
 
 }
 
-std::string asText(const TimelineReport& report, const orvel::Calendar& calendar)
+std::string asText(const TimelineReport& report, const orvel::Locale& locale, const orvel::Calendar& calendar)
 {
     Table table;
     std::string lastDay;
     for (std::size_t index = 0; index < report.timeline.entries.size(); ++index) {
         const auto& entry = report.timeline.entries[index];
         const auto day = dayText(entry.date, calendar);
+        const auto content = orvel::WidgetContent::status(entry.moment, locale, calendar);
         std::vector<std::string> row { day == lastDay ? "" : day, timeText(entry.date, calendar),
-            stateText(entry.moment) };
+            printable(content.title), printable(content.detail) };
         if (!report.reasons.empty()) {
             std::vector<std::string> why;
             for (const auto& reason : report.reasons[index])

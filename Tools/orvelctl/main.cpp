@@ -24,6 +24,8 @@ Exit run(int argc, const char* const* argv)
     app.require_subcommand(0, 1);
     Action action;
     addTimelineCommand(app, action);
+    addContentCommand(app, action);
+    addControlCommand(app, action);
     addLinkCommand(app, action);
     addSnapshotCommand(app, action);
     try {
