@@ -1,10 +1,10 @@
 #include "OrvelPlatform/Base/Locale.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <gtest/gtest.h>
-#include <map>
 #include <thread>
+
+#include "Tests/Support/LocaleVariables.h"
 
 using namespace orvel;
 using namespace std::chrono_literals;
@@ -29,32 +29,6 @@ std::string withPlainSpaces(std::string text)
     }
     return text;
 }
-
-/// Sets the variables that choose a locale and puts back what was there.
-class Variables {
-public:
-    explicit Variables(const std::map<std::string, std::string>& values)
-    {
-        for (const auto* name : { "LC_ALL", "LC_TIME", "LC_MESSAGES", "LANG", "LANGUAGE" }) {
-            if (const auto* value = std::getenv(name))
-                m_before[name] = value;
-            ::unsetenv(name);
-        }
-        for (const auto& [name, value] : values)
-            ::setenv(name.c_str(), value.c_str(), 1);
-    }
-
-    ~Variables()
-    {
-        for (const auto* name : { "LC_ALL", "LC_TIME", "LC_MESSAGES", "LANG", "LANGUAGE" })
-            ::unsetenv(name);
-        for (const auto& [name, value] : m_before)
-            ::setenv(name.c_str(), value.c_str(), 1);
-    }
-
-private:
-    std::map<std::string, std::string> m_before;
-};
 
 }
 
@@ -126,7 +100,7 @@ TEST(Locales, ofTheProcessFollowItsVariables)
         { { { "LANG", "not a locale" } }, "en", "not a locale" },
     };
     for (const auto& c : cases) {
-        const Variables variables(c.variables);
+        const LocaleVariables variables(c.variables);
         EXPECT_EQ(Locale::current().identifier(), c.times);
         EXPECT_EQ(Locale::wordsSetting(), c.words);
     }

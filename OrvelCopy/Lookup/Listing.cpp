@@ -1,0 +1,67 @@
+#include "OrvelCopy/Lookup/Listing.h"
+
+#include <algorithm>
+
+#include "OrvelCopy/Lookup/KeyList.h"
+#include "OrvelCopy/Lookup/StringTables.h"
+
+namespace orvel::Copy {
+
+namespace {
+
+void eraseEach(std::string& text, std::string_view piece)
+{
+    for (auto at = text.find(piece); at != std::string::npos; at = text.find(piece))
+        text.erase(at, piece.size());
+}
+
+/// The function in which a key stands, taken from what compilers write: "orvel::Copy::Widgets::now()::<lambda()>", or
+/// "auto orvel::Copy::Widgets::now()::(anonymous class)::operator()() const".
+std::string qualifiedMember(std::string_view place)
+{
+    std::string name(place);
+    for (const std::string_view noise : { "{anonymous}::", "(anonymous namespace)::", "auto " })
+        eraseEach(name, noise);
+    name.resize(std::min(name.find('('), name.size()));
+    for (const std::string_view outer : { "orvel::", "Copy::" }) {
+        if (name.starts_with(outer))
+            name.erase(0, outer.size());
+    }
+    return name;
+}
+
+ListedText listedText(const Detail::ListedKey& listed)
+{
+    const auto name = qualifiedMember(listed.key.place);
+    const auto colons = name.rfind("::");
+    const auto isNested = colons != std::string::npos;
+    return { .namespace_ = isNested ? name.substr(0, colons) : "Copy",
+        .member = isNested ? name.substr(colons + 2) : name,
+        .key = std::string(listed.key.text),
+        .isConstant = listed.isConstant,
+        .isCounted = listed.key.isCounted };
+}
+
+}
+
+std::vector<ListedText> listedTexts()
+{
+    std::vector<ListedText> texts;
+    for (const auto* listed = Detail::firstListedKey(); listed; listed = listed->next)
+        texts.push_back(listedText(*listed));
+    std::ranges::sort(texts);
+    return texts;
+}
+
+std::vector<std::string> translation(std::string_view key, const Locale& locale)
+{
+    const auto forms = StringTables::ofCatalogue().language({ &locale, 1 }).forms(key);
+    return { forms.begin(), forms.end() };
+}
+
+std::vector<std::string> translatedLanguages()
+{
+    return StringTables::ofCatalogue().languages();
+}
+
+}
