@@ -71,9 +71,10 @@ std::string languageTag(const NameParts& parts)
     std::string tag(parts.language);
     std::ranges::replace(tag, '_', '-');
     const auto added = parts.modifier.value_or("");
-    if (const auto name = script(added); !name.empty())
-        tag.insert(std::min(tag.find('-'), tag.size()), "-" + std::string(name));
-    else if (added == "valencia")
+    if (const auto name = script(added); !name.empty()) {
+        const auto afterLanguage = std::min(tag.find('-'), tag.size());
+        tag.insert(afterLanguage, name).insert(afterLanguage, 1, '-');
+    } else if (added == "valencia")
         tag += "-valencia";
     return tag;
 }

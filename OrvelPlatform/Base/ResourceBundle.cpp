@@ -1,6 +1,5 @@
 #include "OrvelPlatform/Base/ResourceBundle.h"
 
-#include <array>
 #include <fmt/format.h>
 
 #include "OrvelPlatform/Base/Precondition.h"
@@ -9,12 +8,14 @@ namespace orvel {
 
 Bundle resourceBundle(std::string_view name, const void* address)
 {
-    const auto main = Bundle::main();
     const auto folderName = fmt::format("{}.bundle", name);
-    for (const auto& folder : std::array { main.resources(), Bundle::holding(address).resources(), main.path() }) {
-        if (auto bundle = Bundle::at(folder / folderName))
-            return *std::move(bundle);
-    }
+    const auto main = Bundle::main();
+    if (auto bundle = Bundle::at(main.resources() / folderName))
+        return *std::move(bundle);
+    if (auto bundle = Bundle::at(Bundle::holding(address).resources() / folderName))
+        return *std::move(bundle);
+    if (auto bundle = Bundle::at(main.path() / folderName))
+        return *std::move(bundle);
     fatalError(fmt::format("unable to find bundle named {}", name));
 }
 

@@ -73,4 +73,10 @@ TEST(Formats, ofATimeOfDayAreTheLocales)
     constexpr WallTime noon { 12h };
     EXPECT_EQ(Format::time(noon, Locale::named("en_GB").value()), "12:00");
     EXPECT_TRUE(Format::time(noon, Locale::named("en_US").value()).ends_with("PM"));
+
+    const auto british = Locale::named("en_GB").value();
+    constexpr Date summerNoon = std::chrono::sys_days { std::chrono::year { 2026 } / 7 / 1 } + 12h;
+    EXPECT_EQ(Format::time(summerNoon, british, TimeZone::utc()), "12:00");
+    EXPECT_EQ(Format::time(summerNoon, british, TimeZone::named("Europe/Berlin").value()), "14:00");
+    EXPECT_EQ(Format::time(summerNoon, british, TimeZone::named("Asia/Kathmandu").value()), "17:45");
 }

@@ -5,7 +5,7 @@
 #include <random>
 
 #include "OrvelPlatform/Base/UTF8.h"
-#include "TableBytes.h"
+#include "Tests/OrvelCopy/TableBytes.h"
 
 using namespace orvel;
 using namespace orvel::Copy;

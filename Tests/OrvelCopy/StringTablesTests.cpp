@@ -5,7 +5,7 @@
 #include <unistd.h>
 
 #include "OrvelCopy/Lookup/Lookup.h"
-#include "TableBytes.h"
+#include "Tests/OrvelCopy/TableBytes.h"
 
 using namespace orvel;
 using namespace orvel::Copy;

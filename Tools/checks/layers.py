@@ -16,20 +16,22 @@ BELOW = {
     "OrvelPlatform/Drawing": ["OrvelPlatform/Base", "OrvelPlatform/Views"],
     "OrvelPlatform/Desktop": ["OrvelPlatform/Base"],
     "OrvelShared": ["OrvelPlatform/Base"],
-    "OrvelCopy": ["OrvelPlatform/Base"],
+    "OrvelCopy": ["OrvelPlatform/Base", "OrvelCopy/Lookup"],
+    "OrvelCopy/Lookup": ["OrvelPlatform/Base"],
     "OrvelDesign": ["OrvelPlatform/Base"],
     "OrvelDesign/Drawn": ["OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelDesign"],
-    "OrvelWidgetsUI": ["OrvelPlatform/Base", "OrvelShared", "OrvelCopy", "OrvelDesign"],
+    "OrvelWidgetsUI": ["OrvelPlatform/Base", "OrvelShared", "OrvelCopy", "OrvelCopy/Lookup", "OrvelDesign"],
     "OrvelWidgetsUI/Drawn": [
         "OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelShared", "OrvelCopy", "OrvelDesign", "OrvelDesign/Drawn",
         "OrvelWidgetsUI",
     ],
     "OrvelWidgets": [
-        "OrvelPlatform/Base", "OrvelPlatform/Desktop", "OrvelShared", "OrvelCopy", "OrvelDesign", "OrvelWidgetsUI",
+        "OrvelPlatform/Base", "OrvelPlatform/Desktop", "OrvelShared", "OrvelCopy", "OrvelCopy/Lookup", "OrvelDesign",
+        "OrvelWidgetsUI",
     ],
     "WidgetHost": [
-        "OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Drawing", "OrvelPlatform/Desktop", "OrvelCopy",
-        "OrvelDesign", "OrvelDesign/Drawn",
+        "OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Drawing", "OrvelPlatform/Desktop",
+        "OrvelCopy/Lookup", "OrvelDesign", "OrvelDesign/Drawn",
     ],
 }
 
