@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <dlfcn.h>
+#include <link.h>
 #include <system_error>
 
 #include "OrvelPlatform/Base/File.h"
@@ -42,12 +43,15 @@ Bundle Bundle::main()
 
 Bundle Bundle::holding(const void* address)
 {
+    // The loader's own record, because a program's name there is empty, and not what its caller made of argv[0].
     Dl_info module {};
+    void* record = nullptr;
     std::error_code error;
-    if (::dladdr(address, &module) == 0 || !module.dli_fname)
+    if (::dladdr1(address, &module, &record, RTLD_DL_LINKMAP) == 0 || !record)
         return main();
-    const auto file = fs::canonical(module.dli_fname, error);
-    return error || file == executable() ? main() : Bundle(file.parent_path());
+    const std::string_view name = static_cast<const link_map*>(record)->l_name;
+    const auto file = name.empty() ? fs::path() : fs::canonical(name, error);
+    return file.empty() || error ? main() : Bundle(file.parent_path());
 }
 
 std::optional<Bundle> Bundle::at(const fs::path& path)
