@@ -80,7 +80,7 @@ class OrvelctlTests(unittest.TestCase):
 
     def test_a_timeline_for_a_person_has_local_times_and_reasons(self):
         path = self.file(self.sample().replace(b'"name":"Morning"', b'"name":"M\\u001b[31m"'))
-        text = call("timeline", "--snapshot", path, "--now", NOW, *BERLIN, "--why").stdout.decode()
+        text = call("timeline", "--snapshot", path, "--now", NOW, *BERLIN, "--locale", "en_GB", "--why").stdout.decode()
         lines = text.splitlines()
         self.assertEqual(lines[0], f"Snapshot: {path}")
         self.assertRegex(lines[2], r"^Wed 2026-03-04  10:48:30 CET  Morning · Deep work  Until 12:00 .* left +now$")
