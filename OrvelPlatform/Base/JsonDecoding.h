@@ -125,9 +125,9 @@ private:
         if (!json->isObject())
             return failWrongType("an object", *json) || isWithinMember(choiceCase.name);
         auto& value = choice.template emplace<Case>();
-        if constexpr (choiceCase.hasPayload) {
+        if constexpr (JsonCase<Case, payload>::hasPayload) {
             JsonObjectReader members(*json);
-            return readField(members, JsonField { jsonPayloadKey, choiceCase.member }, value)
+            return readField(members, JsonField { jsonPayloadKey, payload }, value)
                 || isWithinMember(choiceCase.name);
         }
         return true;

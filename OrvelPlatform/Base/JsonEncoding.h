@@ -112,7 +112,7 @@ private:
         m_json += '{';
         beginMember(choiceCase.name);
         m_json += '{';
-        if constexpr (choiceCase.hasPayload) {
+        if constexpr (JsonCase<Case, payload>::hasPayload) {
             if (!writeMember(jsonPayloadKey, value->*payload))
                 return isWithinMember(choiceCase.name);
         }

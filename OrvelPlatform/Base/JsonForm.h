@@ -38,7 +38,6 @@ struct JsonDerived {
 template <typename Case, auto payload>
 struct JsonCase {
     using Type = Case;
-    static constexpr auto member = payload;
     static constexpr bool hasPayload = !std::is_null_pointer_v<decltype(payload)>;
     std::string_view name;
 };
