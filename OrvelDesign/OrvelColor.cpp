@@ -12,6 +12,11 @@ DynamicColor OrvelColor::nsColor() const
     return { *this, DynamicColor::Variant::plain };
 }
 
+DynamicColor OrvelColor::color() const
+{
+    return nsColor();
+}
+
 DynamicColor OrvelColor::solid() const
 {
     return { *this, DynamicColor::Variant::solid };

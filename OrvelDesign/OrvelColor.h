@@ -23,7 +23,10 @@ struct OrvelColor {
     /// A colour that follows the appearance by itself, named "orvel.<name>".
     DynamicColor nsColor() const;
 
-    /// The same, named "orvel.<name>.solid", which prefers the solid variant wherever there is one.
+    /// The same for views. PORT: one type serves the platform and its views here.
+    DynamicColor color() const;
+
+    /// A second one, named "orvel.<name>.solid", which prefers the solid variant wherever there is one.
     DynamicColor solid() const;
 
     bool operator==(const OrvelColor&) const = default;
@@ -32,7 +35,7 @@ struct OrvelColor {
 /// A colour that is resolved anew for whatever appearance, contrast and transparency it is asked for. A plain value,
 /// safe from any thread.
 ///
-/// PORT: the first platform registers such an object with the system, which runs it; here whoever draws asks.
+/// PORT: the design's first platform runs such an object by itself; here whoever draws asks it.
 class DynamicColor {
 public:
     enum class Variant { plain, solid };

@@ -7,7 +7,7 @@
 
 namespace orvel {
 
-/// Type specifications: family, size, line height, weight, italic, tracking. The names that begin with mac are the
+/// Text styles: family, size, line height, weight, italic, tracking. The names that begin with mac are the
 /// desktop's sizes, the others are for touch, which has no title1.
 ///
 /// Some share a value (macHero and titleSerif, macTitle1 and title2, macTitle2 and headline, footnote and macBody).

@@ -34,7 +34,7 @@ inline constexpr std::array<std::string_view, 9> rawValues<WidgetType> {
     "buttonLarge",
 };
 
-/// A style's size, line height, weight and letter spacing, in the rounded face. Sizes come from the type specifications
+/// A style's size, line height, weight and letter spacing, in the rounded face. Sizes come from the type tokens
 /// wherever a style follows one, so a change there carries through. Nothing scales them: a widget's canvas grows whole.
 TypeSpecValue spec(WidgetType type);
 

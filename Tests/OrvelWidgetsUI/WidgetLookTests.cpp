@@ -100,7 +100,7 @@ TEST(WidgetColors, ofFullColourLooksAreThePalettes)
     EXPECT_EQ(resolve(colors.line(), colors.look, contrasty), Tokens::Color::line.dawnHighContrast);
 }
 
-TEST(WidgetTypes, takeTheirSizesFromTheTypeSpecifications)
+TEST(WidgetTypes, takeTheirSizesFromTheTypeTokens)
 {
     struct Case {
         WidgetType type;
