@@ -73,6 +73,7 @@ TEST(EnvironmentValues, anOptionIsOnWhenEitherSaysSo)
     EXPECT_EQ(effectiveAccessibility(environment), (OrvelAccessibility { true, true, true, false }));
     EXPECT_EQ(ColorFlags::in(environment), (ColorFlags { false, true, true }));
 
-    environment.set<ReduceTransparencyKey>(false); // the system cannot force it off
-    EXPECT_TRUE(effectiveAccessibility(environment).reduceTransparency);
+    // The system cannot force off what we ask for.
+    const OrvelAccessibility own { true, true, true, true };
+    EXPECT_EQ(effectiveAccessibility(Environment {}.with<OrvelAccessibilityKey>(own)), own);
 }

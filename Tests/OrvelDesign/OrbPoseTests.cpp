@@ -53,5 +53,7 @@ TEST(OrbPoses, mixClampsItsShare)
 {
     EXPECT_EQ(OrbPose::mix(OrbPose::rest, OrbPose::paused, 2), OrbPose::paused);
     EXPECT_EQ(OrbPose::mix(OrbPose::rest, OrbPose::paused, -1), OrbPose::rest);
+    const OrbPose faint { 0.3, 0.7, 1.1, 0.94 }, strong { 0.9, 0.1, 0.3, 0.1 }; // a + (b − a) misses all four
+    EXPECT_EQ(OrbPose::mix(faint, strong, 1), strong);
     EXPECT_EQ(OrbPose::mix(OrbPose::rest, OrbPose::paused, 0.5), (OrbPose { 1, 0.8, 1, 0.75 }));
 }
