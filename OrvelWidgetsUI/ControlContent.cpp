@@ -3,8 +3,14 @@
 #include "OrvelCopy/Controls.h"
 #include "OrvelCopy/Format.h"
 #include "OrvelCopy/Widgets.h"
+#include "OrvelDesign/Palette.h"
 
 namespace orvel {
+
+DynamicColor ControlContent::tint()
+{
+    return Palette::toggleOn.solid();
+}
 
 ControlContent ControlContent::breathe(const WidgetSnapshot::Breath& breath)
 {

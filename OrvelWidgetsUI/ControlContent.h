@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "OrvelDesign/OrvelColor.h"
 #include "OrvelPlatform/Base/RawValue.h"
 #include "OrvelShared/WidgetMoment.h"
 
@@ -17,6 +18,9 @@ struct ControlContent {
 
     static constexpr std::string_view breatheSymbol = "circle.circle";
     static constexpr std::string_view focusSymbol = "timer";
+
+    /// The controls' accent.
+    static DynamicColor tint();
 
     Kind kind;
     std::string title;

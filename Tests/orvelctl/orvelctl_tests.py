@@ -127,6 +127,18 @@ class OrvelctlTests(unittest.TestCase):
         self.assertIn("Group Containers/K4Q7M2XR9T.app.orvel.mac/widgets.json", result.stdout.decode().splitlines()[0])
         self.assertFalse(os.path.exists(empty))
 
+    def test_the_design_systems_values_reach_other_programs(self):
+        tokens = json.loads(call("tokens").stdout)
+        self.assertEqual(call("tokens", "--format", "css", "--json").stdout, call("tokens").stdout)
+        self.assertIn(b"@media (prefers-contrast: more)", call("tokens", "--format", "css").stdout)
+        self.assertEqual(len([name for name in tokens["color"] if not name.startswith("$")]), 37)
+        actual = json.loads(call("metrics", "--json").stdout)
+        bigger = json.loads(call("metrics", "--json", "--bigger", "2").stdout)
+        self.assertEqual(len(actual["roles"]), 25)
+        for before, after in zip(actual["roles"], bigger["roles"]):
+            self.assertEqual(after["size"], before["size"] + 4)
+        self.assertEqual(len(call("metrics").stdout.splitlines()), 26)
+
     def test_links_go_both_ways(self):
         self.assertEqual(call("link", "make", "breathe", "--style", "a b", "--minutes", "-3").stdout,
                          b"orvel://breathe?style=a%20b&minutes=-3\n")
@@ -150,6 +162,9 @@ class OrvelctlTests(unittest.TestCase):
             (["timeline", "--locale", "no_such locale"], "no_such locale"),
             (["content", "--widget", "clock"], "clock"),
             (["control", "volume"], "volume"),
+            (["tokens", "--format", "yaml"], "yaml"),
+            (["metrics", "--bigger", "5"], "5"),
+            (["metrics", "--scale", "0"], "0"),
             (["snapshot", "sample", "--state", "bored"], "bored"),
             (["snapshot", "check"], "file"),
             (["link", "make", "moon"], "moon"),

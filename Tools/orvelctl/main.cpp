@@ -28,6 +28,8 @@ Exit run(int argc, const char* const* argv)
     addControlCommand(app, action);
     addLinkCommand(app, action);
     addSnapshotCommand(app, action);
+    addTokensCommand(app, action);
+    addMetricsCommand(app, action);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
