@@ -61,8 +61,8 @@ Exit show(const Call& call)
     }
     if (!call.isJson)
         return print("Snapshot: " + printable(found->origin) + "\n\n" + asText(report, calendar));
-    const auto json = asJson(report);
-    return json ? print(*json + "\n") : fail(json.error().text());
+    auto json = asJson(std::move(report));
+    return json ? print(*json += '\n') : fail(json.error().text());
 }
 
 }

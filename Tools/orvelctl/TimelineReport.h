@@ -20,7 +20,7 @@ struct TimelineReport {
 };
 
 /// For a program. A fault where the record holds what JSON cannot show.
-std::expected<std::string, orvel::Fault> asJson(const TimelineReport& report);
+std::expected<std::string, orvel::Fault> asJson(TimelineReport report);
 
 /// For a person: one line an entry, with clock times in the calendar's zone.
 std::string asText(const TimelineReport& report, const orvel::Calendar& calendar);
