@@ -69,7 +69,7 @@ std::vector<std::string> quietLists(Choices& choices)
 {
     std::vector<std::string> names;
     const auto first = choices.below(listNames.size());
-    const auto count = 1 + choices.below(4);
+    const auto count = 1 + choices.below(5);
     for (std::size_t index = 0; index < count; ++index)
         names.emplace_back(listNames[(first + index) % listNames.size()]);
     return names;
@@ -89,7 +89,7 @@ WidgetSnapshot::Running running(Choices& choices, std::string_view name, Date st
     };
     if (choices.oneIn(5))
         running.names.emplace_back(choices.among(blockNames));
-    if (choices.oneIn(12))
+    if (choices.oneIn(6))
         running.unlock = { .name = std::string(choices.among(listNames)), .end = start + 10min };
     return running;
 }

@@ -46,6 +46,19 @@ void measureAll(Contestants& contestants)
         measureDates(fmt::format("dates/{}", count), overlappingSnapshot(count), contestants.calendar());
 }
 
+/// What a reader of the figures wants to know of the sample.
+void describe(const Contestants& contestants)
+{
+    constexpr std::int64_t boundless = 1'000'000;
+    const auto dates =
+        sampleSnapshot().timelineDates(sampleNow(), contestants.calendar(), OrvelProvider::countdownSpan, boundless);
+    benchmark::AddCustomContext("bytes", fmt::to_string(contestants.json().size()));
+    benchmark::AddCustomContext("dates", fmt::to_string(dates.size()));
+    benchmark::AddCustomContext("entries", fmt::to_string(contestants.entries().size()));
+    benchmark::AddCustomContext("now", iso8601(sampleNow()).value());
+    benchmark::AddCustomContext("zone", std::string(sampleZone));
+}
+
 int run(int argc, char** argv)
 {
     benchmark::Initialize(&argc, argv);
@@ -60,8 +73,7 @@ int run(int argc, char** argv)
         fmt::print(stderr, "OrvelBenchmarks: nothing is measured: {}\n", *why);
         return 1;
     }
-    benchmark::AddCustomContext("bytes", std::to_string(contestants.json().size()));
-    benchmark::AddCustomContext("entries", std::to_string(contestants.entries().size()));
+    describe(contestants);
     measureAll(contestants);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
