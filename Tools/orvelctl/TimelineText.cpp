@@ -4,9 +4,9 @@
 
 #include "OrvelPlatform/Base/Match.h"
 #include "OrvelWidgetsUI/WidgetContent.h"
-#include "Tools/orvelctl/Command.h"
 #include "Tools/orvelctl/PhaseName.h"
 #include "Tools/orvelctl/Table.h"
+#include "Tools/orvelctl/Terminal.h"
 #include "Tools/orvelctl/TimelineReport.h"
 
 namespace orvelctl {
