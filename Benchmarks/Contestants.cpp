@@ -1,5 +1,6 @@
 #include "Benchmarks/Contestants.h"
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
@@ -47,11 +48,16 @@ bool bothReject(const std::string& json)
 }
 
 Contestants::Contestants(std::filesystem::path file)
-    : m_file(std::move(file)), m_snapshot(sampleSnapshot()), m_calendar(sampleCalendar()), m_peerCalendar(sampleZone)
+    : m_file(std::move(file))
+    , m_snapshot(sampleSnapshot())
+    , m_calendar(sampleCalendar())
+    , m_peerCalendar(sampleZone)
+    , m_locale(Locale::named("en-GB").value())
 {
     if (const auto written = SharedFile<WidgetSnapshot>(m_file).write(m_snapshot); !written)
         throw std::runtime_error(written.error().text());
     m_json = bytes(m_file);
+    m_entries = entries();
 }
 
 std::vector<OrvelEntry> Contestants::entries() const
@@ -87,6 +93,24 @@ std::vector<OrvelEntry> Contestants::entriesFromFileOfPeer()
     return entriesWithIcu(*snapshot, sampleNow(), m_peerCalendar, OrvelProvider::countdownSpan, OrvelProvider::limit);
 }
 
+std::vector<WidgetContent> Contestants::contents() const
+{
+    std::vector<WidgetContent> contents;
+    contents.reserve(m_entries.size());
+    for (const auto& entry : m_entries)
+        contents.push_back(WidgetContent::status(entry.moment, m_locale, m_calendar));
+    return contents;
+}
+
+std::vector<LocalWords> Contestants::wordsOfPeer() const
+{
+    std::vector<LocalWords> words;
+    words.reserve(m_entries.size());
+    for (const auto& entry : m_entries)
+        words.push_back(wordsWithIcu(entry, m_calendar));
+    return words;
+}
+
 std::optional<std::string> Contestants::disagreement()
 {
     if (decodeJson<WidgetSnapshot>(m_json) != m_snapshot)
@@ -97,6 +121,8 @@ std::optional<std::string> Contestants::disagreement()
         return "the ICU calendar's entries differ from ours";
     if (entriesFromFile() != entries() || entriesFromFileOfPeer() != entries())
         return "the entries from the file differ";
+    if (!std::ranges::equal(wordsOfPeer(), contents(), standIn))
+        return "ICU's words do not stand in ours";
     const std::string damages[] = {
         damaged(m_json, R"(Z","level")", R"(.5Z","level")"),
         damaged(m_json, R"("firm")", R"("Firm")"),

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "Benchmarks/IcuTimeline.h"
+#include "Benchmarks/IcuWords.h"
 #include "OrvelPlatform/Base/Calendar.h"
 #include "OrvelShared/WidgetSnapshot.h"
 #include "OrvelWidgets/OrvelEntry.h"
@@ -26,6 +27,10 @@ public:
     std::vector<orvel::OrvelEntry> entriesFromFile() const;
     std::vector<orvel::OrvelEntry> entriesFromFileOfPeer();
 
+    /// What the status widget says at each entry, in British English.
+    std::vector<orvel::WidgetContent> contents() const;
+    std::vector<LocalWords> wordsOfPeer() const;
+
     /// Why the peers' results differ from ours, on the sample and on damaged copies of it; absent when all agree.
     std::optional<std::string> disagreement();
 
@@ -35,6 +40,8 @@ private:
     orvel::Calendar m_calendar;
     IcuCalendar m_peerCalendar;
     std::string m_json;
+    std::vector<orvel::OrvelEntry> m_entries;
+    orvel::Locale m_locale;
 };
 
 }

@@ -41,6 +41,8 @@ void measureAll(Contestants& contestants)
     measure("entries/peer", [&] { return contestants.entriesOfPeer(); });
     measure("file/ours", [&] { return contestants.entriesFromFile(); });
     measure("file/peer", [&] { return contestants.entriesFromFileOfPeer(); });
+    measure("contents/ours", [&] { return contestants.contents(); });
+    measure("contents/peer", [&] { return contestants.wordsOfPeer(); });
     measureDates("dates/year9999", farSnapshot(), contestants.calendar());
     for (const std::size_t count : { 1'000, 10'000, 100'000 })
         measureDates(fmt::format("dates/{}", count), overlappingSnapshot(count), contestants.calendar());

@@ -127,8 +127,7 @@ private:
         auto& value = choice.template emplace<Case>();
         if constexpr (JsonCase<Case, payload>::hasPayload) {
             JsonObjectReader members(*json);
-            return readField(members, JsonField { jsonPayloadKey, payload }, value)
-                || isWithinMember(choiceCase.name);
+            return readField(members, JsonField { jsonPayloadKey, payload }, value) || isWithinMember(choiceCase.name);
         }
         return true;
     }

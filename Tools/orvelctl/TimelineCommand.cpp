@@ -54,14 +54,9 @@ Exit show(const Call& call, const Situation& situation)
     auto report = orvelctl::report(situation, call.isWhy);
     if (call.request.isJson) {
         auto json = asJson(std::move(report));
-        return json ? print(*json += '
-') : fail(json.error().text());
+        return json ? print(*json += '\n') : fail(json.error().text());
     }
-    return print("Snapshot: " + printable(situation.found.origin)
-        + "
-
-          " + (call.hasCards ? cards(situation) : "
-          ")
+    return print("Snapshot: " + printable(situation.found.origin) + "\n\n" + (call.hasCards ? cards(situation) : "")
         + asText(report, situation.locale, situation.calendar));
 }
 
