@@ -1,5 +1,6 @@
 #include "OrvelPlatform/Base/Json.h"
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <fmt/format.h>
@@ -37,6 +38,21 @@ std::optional<Value> optional(simdjson::simdjson_result<Value> result)
 }
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+bool needsEscape(char character)
+{
+    return static_cast<unsigned char>(character) < 0x20 || character == '"' || character == '\\' || character == '/';
+}
+
+void appendEscaped(std::string& json, char character)
+{
+    constexpr std::string_view characters = "\"\\/\b\f\n\r\t", letters = "\"\\/bfnrt";
+    const auto found = characters.find(character);
+    if (found != std::string_view::npos)
+        json += { '\\', letters[found] };
+    else
+        json += fmt::format("\\u{:04x}", static_cast<unsigned>(character));
+}
 
 }
 
@@ -126,7 +142,7 @@ std::optional<JsonValue> JsonArrayReader::next()
     return value;
 }
 
-JsonObjectReader::JsonObjectReader(JsonValue object) : m_object(object)
+JsonObjectReader::JsonObjectReader(JsonValue object)
 {
     const auto members = reference<dom::element>(object.m_place).get_object().value_unsafe();
     m_next = place(members.begin());
@@ -135,15 +151,18 @@ JsonObjectReader::JsonObjectReader(JsonValue object) : m_object(object)
 
 std::optional<JsonValue> JsonObjectReader::find(std::string_view key)
 {
-    // All members before `m_next` were found under other keys, so what stands there is the first of its key.
-    auto next = reference<dom::object::iterator>(m_next);
-    if (next != reference<dom::object::iterator>(m_end) && next.key() == key) {
-        const JsonValue value(place(next.value()));
-        m_next = place(++next);
+    // All members before `m_next` were found under other keys, so the first of this key is still ahead.
+    const auto first = reference<dom::object::iterator>(m_next);
+    const auto end = reference<dom::object::iterator>(m_end);
+    for (auto member = first; member != end; ++member) {
+        if (member.key() != key)
+            continue;
+        const JsonValue value(place(member.value()));
+        if (member == first)
+            m_next = place(++member);
         return value;
     }
-    const auto members = reference<dom::element>(m_object.m_place).get_object().value_unsafe();
-    return optional(members.at_key(key)).transform([](dom::element value) { return JsonValue(place(value)); });
+    return std::nullopt;
 }
 
 JsonDocument::JsonDocument(std::unique_ptr<Parsed> parsed) : m_parsed(std::move(parsed)) { }
@@ -173,35 +192,13 @@ bool appendJsonText(std::string& json, std::string_view text)
     if (!simdjson::validate_utf8(text.data(), text.size()))
         return false;
     json += '"';
-    for (const auto character : text) {
-        switch (character) {
-        case '"':
-        case '\\':
-        case '/':
-            json += '\\';
-            json += character;
+    while (true) {
+        const auto plain = static_cast<std::size_t>(std::ranges::find_if(text, needsEscape) - text.begin());
+        json += text.substr(0, plain);
+        if (plain == text.size())
             break;
-        case '\b':
-            json += "\\b";
-            break;
-        case '\f':
-            json += "\\f";
-            break;
-        case '\n':
-            json += "\\n";
-            break;
-        case '\r':
-            json += "\\r";
-            break;
-        case '\t':
-            json += "\\t";
-            break;
-        default:
-            if (static_cast<unsigned char>(character) < 0x20)
-                json += fmt::format("\\u{:04x}", static_cast<unsigned>(character));
-            else
-                json += character;
-        }
+        appendEscaped(json, text[plain]);
+        text.remove_prefix(plain + 1);
     }
     json += '"';
     return true;

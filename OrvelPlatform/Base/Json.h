@@ -61,8 +61,8 @@ private:
     std::size_t m_count;
 };
 
-/// The members of an object, by key. Where a key stands twice, the first counts. Asking in the order in which the keys
-/// stand is fast, any other order works.
+/// The members of an object, by key. Where a key stands twice, the first counts. Each key is asked for once; doing so
+/// in the order in which the keys stand is fast, any other order works.
 class JsonObjectReader {
 public:
     /// `object` must be one.
@@ -71,7 +71,6 @@ public:
     std::optional<JsonValue> find(std::string_view key);
 
 private:
-    JsonValue m_object;
     JsonValue::Place m_next;
     JsonValue::Place m_end;
 };

@@ -35,7 +35,10 @@ bool JsonEncoder::write(Date value)
     const auto text = m_audience == JsonAudience::file ? iso8601(value) : iso8601WithFraction(value);
     if (!text)
         return fail(text.error().why);
-    return write(*text);
+    m_json += '"';
+    m_json += *text; // nothing in a date needs an escape
+    m_json += '"';
+    return true;
 }
 
 bool JsonEncoder::write(const UUID& value)

@@ -43,8 +43,10 @@ TEST(StateAtAnInstant, isThatOfTheLastPhaseThatHasStarted)
         { "2026-03-02T12:00:00Z", focus }, // out of order: the later place counts
         { "2026-03-02T14:00:00Z", block }, // beyond the horizon, and the later of two equal starts
     };
-    for (const auto& [at, state] : cases)
+    for (const auto& [at, state] : cases) {
         EXPECT_EQ(snapshot.state(date(at)), state) << at;
+        EXPECT_EQ(snapshot.moment(date(at), utc).state, state) << at;
+    }
 }
 
 TEST(Moments, haveTheSevenDaysThatEndToday)
@@ -91,14 +93,27 @@ TEST(Moments, followTheDaysOfTheZone)
 
 TEST(Moments, areTheSameOneByOneAndInARow)
 {
-    auto snapshot = emptySnapshot(date("2018-11-10T00:00:00Z"));
-    const auto calendar = calendarIn("America/Havana");
-    for (auto hours = 0; hours < 24 * 9; hours += 7)
-        snapshot.days.push_back(day(date("2018-11-01T00:00:00Z") + std::chrono::hours { hours }, hours));
-    WidgetMoments moments(snapshot, calendar);
-    for (auto hours = 24 * 9; hours > 0; hours -= 5) {
-        const auto at = date("2018-11-01T00:00:00Z") + std::chrono::hours { hours };
-        EXPECT_EQ(moments.moment(at), snapshot.moment(at, calendar)) << text(at);
+    struct Case {
+        std::string_view name, zone, start;
+        std::chrono::minutes step;
+    };
+    const Case cases[] = {
+        { "backwards over days of 24 and 25 hours", "America/Havana", "2018-11-10T00:00:00Z",
+            std::chrono::hours { -5 } },
+        { "back into yesterday a minute after midnight", "America/St_Johns", "2010-11-07T02:20:00Z",
+            std::chrono::minutes { 1 } },
+    };
+    for (const auto& c : cases) {
+        auto snapshot = emptySnapshot(date("2018-11-10T00:00:00Z"));
+        const auto start = date(c.start);
+        for (auto hours = -24 * 9; hours < 24; hours += 7)
+            snapshot.days.push_back(day(start + std::chrono::hours { hours }, hours));
+        const auto calendar = calendarIn(c.zone);
+        WidgetMoments moments(snapshot, calendar);
+        for (auto index = 0; index < 80; ++index) {
+            const auto at = start + index * c.step;
+            EXPECT_EQ(moments.moment(at), snapshot.moment(at, calendar)) << c.name << ", " << text(at);
+        }
     }
 }
 

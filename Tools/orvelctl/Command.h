@@ -10,17 +10,10 @@
 
 #include "OrvelPlatform/Base/Calendar.h"
 #include "OrvelPlatform/Base/Date.h"
-#include "OrvelPlatform/Base/Fault.h"
 #include "OrvelPlatform/Base/Locale.h"
+#include "Tools/orvelctl/Terminal.h"
 
 namespace orvelctl {
-
-/// How a call ends, as its exit status.
-enum class Exit : int {
-    done = 0,
-    no = 1, // the answer is "no", or the data is bad
-    wrongCall = 2,
-};
 
 /// The command that the call names, to be run once the whole call has been understood.
 using Action = std::function<Exit()>;
@@ -48,14 +41,5 @@ void addLocaleOption(CLI::App* command, std::optional<orvel::Locale>& locale);
 
 /// The calendar of a zone, or the user's.
 orvel::Calendar calendar(const std::optional<orvel::TimeZone>& zone);
-
-/// Writes all of `text` to standard output. Output that nobody can take is bad news too.
-Exit print(std::string_view text);
-
-/// One line on standard error.
-Exit fail(std::string_view message, Exit exit = Exit::no);
-
-/// Text of unknown origin for one line of a terminal: control characters are shown, not obeyed.
-std::string printable(std::string_view text);
 
 }

@@ -51,10 +51,10 @@ std::string cards(const Situation& situation)
 
 Exit show(const Call& call, const Situation& situation)
 {
-    const auto report = orvelctl::report(situation, call.isWhy);
+    auto report = orvelctl::report(situation, call.isWhy);
     if (call.request.isJson) {
-        const auto json = asJson(report);
-        return json ? print(*json + "\n") : fail(json.error().text());
+        auto json = asJson(std::move(report));
+        return json ? print(*json += '\n') : fail(json.error().text());
     }
     return print("Snapshot: " + printable(situation.found.origin) + "\n\n" + (call.hasCards ? cards(situation) : "")
         + asText(report, situation.locale, situation.calendar));

@@ -96,11 +96,12 @@ Reason reason(const TimelineReason::Any& any, const orvel::WidgetSnapshot& snaps
 
 }
 
-std::expected<std::string, orvel::Fault> asJson(const TimelineReport& report)
+std::expected<std::string, orvel::Fault> asJson(TimelineReport report)
 {
     Timeline timeline { .entries = {}, .reload = report.timeline.reload };
-    for (const auto& entry : report.timeline.entries)
-        timeline.entries.push_back({ .date = entry.date, .moment = entry.moment, .why = std::nullopt });
+    timeline.entries.reserve(report.timeline.entries.size());
+    for (auto& entry : report.timeline.entries)
+        timeline.entries.push_back({ .date = entry.date, .moment = std::move(entry.moment), .why = std::nullopt });
     for (std::size_t index = 0; index < report.reasons.size(); ++index) {
         auto& why = timeline.entries[index].why.emplace();
         for (const auto& any : report.reasons[index])

@@ -21,7 +21,7 @@ struct TimelineReport {
 };
 
 /// For a program. A fault where the record holds what JSON cannot show.
-std::expected<std::string, orvel::Fault> asJson(const TimelineReport& report);
+std::expected<std::string, orvel::Fault> asJson(TimelineReport report);
 
 /// For a person: one line an entry, with clock times in the calendar's zone and the status widget's title and detail.
 std::string asText(const TimelineReport& report, const orvel::Locale& locale, const orvel::Calendar& calendar);

@@ -1,12 +1,11 @@
-#include <fmt/chrono.h>
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
 #include "OrvelPlatform/Base/Match.h"
 #include "OrvelWidgetsUI/WidgetContent.h"
-#include "Tools/orvelctl/Command.h"
 #include "Tools/orvelctl/PhaseName.h"
 #include "Tools/orvelctl/Table.h"
+#include "Tools/orvelctl/Terminal.h"
 #include "Tools/orvelctl/TimelineReport.h"
 
 namespace orvelctl {
