@@ -9,49 +9,41 @@ void runs(CLI::App* command, Action& action, Action what)
     command->callback([&action, what = std::move(what)] { action = what; });
 }
 
+namespace {
+
+/// An option whose text `parse` understands; `likeness` says for which text it would.
+template <typename Value>
+CLI::Option* addParsedOption(CLI::App* command, const std::string& name, std::optional<Value>& value,
+    std::optional<Value> (*parse)(std::string_view), std::string_view likeness, const std::string& what)
+{
+    const auto read = [&value, parse, name, likeness](const std::string& text) {
+        value = parse(text);
+        if (!value)
+            throw CLI::ValidationError(name, fmt::format("\"{}\" is no {}", printable(text), likeness));
+    };
+    return command->add_option_function<std::string>(name, read, what);
+}
+
+}
+
 void addDateOption(CLI::App* command, std::string_view name, std::optional<orvel::Date>& date, const std::string& what)
 {
-    const std::string option(name);
-    command
-        ->add_option_function<std::string>(
-            option,
-            [&date, option](const std::string& text) {
-                date = orvel::dateFromISO8601WithFraction(text);
-                if (!date)
-                    throw CLI::ValidationError(
-                        option, fmt::format("\"{}\" is no date such as 2026-03-02T09:00:00Z", printable(text)));
-            },
-            what)
+    addParsedOption(
+        command, std::string(name), date, orvel::dateFromISO8601WithFraction, "date such as 2026-03-02T09:00:00Z", what)
         ->type_name("DATE");
 }
 
 void addTimeZoneOption(CLI::App* command, std::optional<orvel::TimeZone>& zone)
 {
-    command
-        ->add_option_function<std::string>(
-            "--time-zone",
-            [&zone](const std::string& text) {
-                zone = orvel::TimeZone::named(text);
-                if (!zone)
-                    throw CLI::ValidationError(
-                        "--time-zone", fmt::format("\"{}\" is no zone such as Europe/Berlin", printable(text)));
-            },
-            "The zone of days and clock times; without it yours")
+    addParsedOption(command, "--time-zone", zone, orvel::TimeZone::named, "zone such as Europe/Berlin",
+        "The zone of days and clock times; without it yours")
         ->type_name("ZONE");
 }
 
 void addLocaleOption(CLI::App* command, std::optional<orvel::Locale>& locale)
 {
-    command
-        ->add_option_function<std::string>(
-            "--locale",
-            [&locale](const std::string& text) {
-                locale = orvel::Locale::named(text);
-                if (!locale)
-                    throw CLI::ValidationError(
-                        "--locale", fmt::format("\"{}\" is no locale such as de-DE or de_DE.UTF-8", printable(text)));
-            },
-            "The language of words, times and lists; without it yours")
+    addParsedOption(command, "--locale", locale, orvel::Locale::named, "locale such as de-DE or de_DE.UTF-8",
+        "The language of words, times and lists; without it yours")
         ->type_name("LOCALE");
 }
 
