@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "OrvelPlatform/Drawing/PangoShapedText.h"
+#include "OrvelPlatform/Views/Extent.h"
 
 namespace orvel {
 
@@ -110,8 +111,11 @@ Handle<PangoLayout> layoutOf(const Paragraph& paragraph, const TextBlock& block,
     pango_layout_set_text(layout.get(), paragraph.text.c_str(), static_cast<int>(paragraph.text.size()));
     pango_layout_set_attributes(layout.get(), paragraph.attributes.get());
     pango_layout_set_wrap(layout.get(), PANGO_WRAP_WORD_CHAR);
-    if (std::isfinite(width))
-        pango_layout_set_width(layout.get(), units(std::max(width, 0.0)));
+    if (std::isfinite(width)) {
+        // A line's width leaves out the tracking after its last letter; where lines break it counts.
+        const double trackingRoom = std::max(block.runs.back().style.tracking, 0.0);
+        pango_layout_set_width(layout.get(), units(std::max(width, 0.0) + trackingRoom));
+    }
     if (block.lineLimit > 0) {
         pango_layout_set_ellipsize(layout.get(), PANGO_ELLIPSIZE_END);
         pango_layout_set_height(layout.get(), -block.lineLimit);
@@ -124,7 +128,8 @@ bool fits(PangoLayout* layout, int width, int lineCount)
     pango_layout_set_width(layout, width);
     int widest = 0;
     pango_layout_get_size(layout, &widest, nullptr);
-    return pango_layout_get_line_count(layout) == lineCount && widest <= width;
+    return pango_layout_get_line_count(layout) == lineCount && widest <= width
+        && pango_layout_is_ellipsized(layout) == FALSE;
 }
 
 /// The narrowest width that takes no more lines and breaks no word.
@@ -153,11 +158,10 @@ std::size_t mixed(std::size_t seed, std::size_t value)
 
 }
 
-std::size_t PangoTextSystem::Hash::operator()(const Question& question) const
+std::size_t PangoTextSystem::Hash::operator()(const TextBlock& block) const
 {
-    auto seed = std::hash<double> {}(question.width);
-    seed = mixed(seed, static_cast<std::size_t>(question.block.lineLimit));
-    for (const auto& run : question.block.runs) {
+    auto seed = static_cast<std::size_t>(block.lineLimit);
+    for (const auto& run : block.runs) {
         seed = mixed(seed, std::hash<std::string> {}(run.text));
         seed = mixed(seed, std::hash<double> {}(run.style.size + run.style.weight));
     }
@@ -168,14 +172,26 @@ PangoTextSystem::PangoTextSystem(const std::filesystem::path& folder, FontScope 
 
 std::shared_ptr<const ShapedText> PangoTextSystem::shape(const TextBlock& block, double width)
 {
-    Question question { block, width };
-    if (const auto found = m_kept.find(question); found != m_kept.end())
-        return found->second;
-    if (m_kept.size() >= mostKept)
+    auto inOneLine = shapeOnce(block, infiniteLength);
+    return inOneLine->size.width <= width ? inOneLine : shapeOnce(block, width);
+}
+
+std::shared_ptr<const ShapedText> PangoTextSystem::shapeOnce(const TextBlock& block, double width)
+{
+    if (const auto known = m_kept.find(block); known != m_kept.end()) {
+        for (const auto& [took, offered, text] : known->second) {
+            if (took <= width && width <= offered)
+                return text;
+        }
+    }
+    if (m_keptCount >= mostKept) {
         m_kept.clear();
-    auto shaped = shapeAfresh(block, width);
-    m_kept.emplace(std::move(question), shaped);
-    return shaped;
+        m_keptCount = 0;
+    }
+    auto text = shapeAfresh(block, width);
+    m_kept[block].push_back({ std::min(text->size.width, width), width, text });
+    ++m_keptCount;
+    return text;
 }
 
 std::shared_ptr<const ShapedText> PangoTextSystem::shapeAfresh(const TextBlock& block, double width)
