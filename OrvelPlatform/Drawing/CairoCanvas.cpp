@@ -15,6 +15,7 @@ namespace orvel {
 
 namespace {
 
+constexpr double longestMask = 16384; // pixels; the library's own surfaces end at twice that
 constexpr double hairline = 1; // points; what is at most as thin is one
 
 CairoHandle contextOn(cairo_surface_t* surface, double scale)
@@ -105,7 +106,8 @@ void CairoCanvas::text(const ShapedText& text, Point at, const std::vector<Paint
     precondition(shaped && !paints.empty(), "text is drawn by the text system that shaped it, with a paint");
     const PaintedArea area { { at, text.size }, text.size.height };
     const bool isOneColor = std::ranges::adjacent_find(paints, std::not_equal_to {}) == paints.end();
-    if (m_isVector || shaped->hasColorGlyphs()) {
+    const double scale = scaleOf(current());
+    if (m_isVector || shaped->hasColorGlyphs() || std::max(text.size.width, text.size.height) * scale > longestMask) {
         paintOn(paints.front(), area, [&](cairo_t* context) {
             cairo_save(context);
             cairo_translate(context, at.x, at.y);
@@ -122,7 +124,6 @@ void CairoCanvas::text(const ShapedText& text, Point at, const std::vector<Paint
                 context, mask.coverage.get(), std::round(origin.x) + mask.left, std::round(origin.y) + mask.top);
         });
     };
-    const double scale = scaleOf(current());
     if (isOneColor)
         return drawMask(paints.front(), shaped->mask(scale));
     for (std::size_t run = 0; run < shaped->runCount(); ++run)
