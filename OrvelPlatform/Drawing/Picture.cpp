@@ -1,0 +1,12 @@
+#include "OrvelPlatform/Drawing/Picture.h"
+
+#include "OrvelPlatform/Drawing/Png.h"
+
+namespace orvel {
+
+std::expected<std::string, Fault> Picture::png(const Layer& layer) const
+{
+    return pngFile(layer.pixels, width);
+}
+
+}

@@ -1,0 +1,100 @@
+#include "OrvelPlatform/Drawing/Png.h"
+
+#include <array>
+#include <libdeflate.h>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace orvel {
+
+namespace {
+
+using Byte = std::uint8_t;
+constexpr std::size_t pixelSize = 4;
+
+void appendNumber(std::string& file, std::uint32_t number)
+{
+    for (const unsigned shift : { 24U, 16U, 8U, 0U })
+        file += static_cast<char>(number >> shift & 0xffU);
+}
+
+void appendChunk(std::string& file, std::string_view kind, std::string_view data)
+{
+    appendNumber(file, static_cast<std::uint32_t>(data.size()));
+    const auto checked = file.size();
+    file += kind;
+    file += data;
+    const auto* const bytes = file.data() + checked;
+    appendNumber(file, libdeflate_crc32(0, bytes, file.size() - checked));
+}
+
+/// Red, green, blue and alpha, not premultiplied.
+std::array<Byte, pixelSize> separated(std::uint32_t pixel)
+{
+    constexpr std::uint32_t full = 255;
+    const std::uint32_t alpha = pixel >> 24U;
+    const auto channel = [&](unsigned shift) {
+        const std::uint32_t value = pixel >> shift & 0xffU;
+        return static_cast<Byte>(alpha == full || alpha == 0 ? value : (value * full + alpha / 2) / alpha);
+    };
+    return { channel(16), channel(8), channel(0), static_cast<Byte>(alpha) };
+}
+
+/// The picture's rows as differences to the row above, each with the filter's number before it: what is left of smooth
+/// ground is small numbers, which pack well.
+std::vector<Byte> filteredRows(std::span<const std::uint32_t> pixels, std::size_t width)
+{
+    constexpr Byte differenceToRowAbove = 2;
+    std::vector<Byte> rows(pixels.size() / width * (width * pixelSize + 1));
+    std::vector<std::array<Byte, pixelSize>> above(width);
+    auto out = rows.begin();
+    for (std::size_t row = 0; row < pixels.size(); row += width) {
+        *out++ = differenceToRowAbove;
+        for (std::size_t x = 0; x < width; ++x) {
+            const auto channels = separated(pixels[row + x]);
+            for (std::size_t i = 0; i < pixelSize; ++i)
+                *out++ = static_cast<Byte>(channels[i] - above[x][i]);
+            above[x] = channels;
+        }
+    }
+    return rows;
+}
+
+struct Release {
+    void operator()(libdeflate_compressor* compressor) const { libdeflate_free_compressor(compressor); }
+};
+
+std::expected<std::string, Fault> packed(const std::vector<Byte>& rows)
+{
+    constexpr int fastest = 1;
+    const std::unique_ptr<libdeflate_compressor, Release> compressor(libdeflate_alloc_compressor(fastest));
+    if (!compressor)
+        return std::unexpected(Fault { {}, "there is not enough memory to pack the picture" });
+    std::string data(libdeflate_zlib_compress_bound(compressor.get(), rows.size()), '\0');
+    data.resize(libdeflate_zlib_compress(compressor.get(), rows.data(), rows.size(), data.data(), data.size()));
+    return data;
+}
+
+}
+
+std::expected<std::string, Fault> pngFile(std::span<const std::uint32_t> pixels, std::uint32_t width)
+{
+    if (width == 0 || pixels.empty() || pixels.size() % width != 0)
+        return std::unexpected(Fault { {}, "a picture has whole rows" });
+    const auto data = packed(filteredRows(pixels, width));
+    if (!data)
+        return std::unexpected(data.error());
+    std::string file("\x89PNG\r\n\x1a\n");
+    std::string header;
+    appendNumber(header, width);
+    appendNumber(header, static_cast<std::uint32_t>(pixels.size() / width));
+    header += { 8, 6, 0, 0, 0 }; // eight bits, red green blue and alpha; the only ways of packing, filtering and order
+    appendChunk(file, "IHDR", header);
+    appendChunk(file, "sRGB", std::string_view("\0", 1));
+    appendChunk(file, "IDAT", *data);
+    appendChunk(file, "IEND", {});
+    return file;
+}
+
+}
