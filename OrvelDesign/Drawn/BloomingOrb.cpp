@@ -3,6 +3,7 @@
 #include "OrvelDesign/Drawn/OrbDisc.h"
 #include "OrvelDesign/Drawn/OrbPool.h"
 #include "OrvelDesign/EnvironmentValues.h"
+#include "OrvelDesign/Palette.h"
 #include "OrvelDesign/Progress.h"
 #include "OrvelDesign/TokensMotion.h"
 
@@ -19,6 +20,7 @@ constexpr double brighteningShare = 0.4; // of the duration
 constexpr double startScale = BloomingOrb::Values::rest.bloomScale;
 constexpr double endScale = 1.5;
 constexpr double startOpacity = 1;
+constexpr double lightAlpha = 0.6; // most of it lies behind the disc: what is seen is less than half of that
 constexpr Seconds jump { 0.01 }; // from rest to the start values
 
 /// From `a` to `b` with neither speed nor jolt at the ends.
@@ -61,9 +63,8 @@ void BloomingOrb::draw(Canvas& canvas, const Rect& in, const Environment& enviro
     const bool dark = environment.get<ColorSchemeKey>() == ColorScheme::dark;
     const auto values = elapsed ? Values::at(*elapsed, options.reduceMotion) : Values::rest;
     if (values.bloomOpacity > 0 && !options.reduceTransparency) {
-        const double side = size * orbPoolFactor * values.bloomScale;
-        OrbPool { dark, values.bloomOpacity }.draw(
-            canvas, { in.center().x - side / 2, in.center().y - side / 2, side, side }, environment);
+        drawOrbPool(canvas, in.center(), size * orbPoolFactor * values.bloomScale,
+            Color(Palette::orbGlow.rgba({ .dark = dark })).faded(lightAlpha * values.bloomOpacity));
     }
     drawOrbDisc(canvas, in.center(), size, OrbColors::palette(dark, values.brightness));
 }
