@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <span>
 
 namespace orvel {
 
@@ -17,6 +18,42 @@ std::map<double, Group, std::greater<>> groups(const std::vector<StackLayout::Ch
     for (std::size_t i = 0; i < children.size(); ++i)
         byPriority[children[i].view.stackTraits().priority].push_back(i);
     return byPriority;
+}
+
+struct Range {
+    double least;
+    double most;
+    double flexibility() const { return std::isinf(most) ? most : most - least; }
+    double within(double length) const { return std::clamp(length, least, std::max(least, most)); }
+};
+
+double lengthAt(double level, std::span<const Range> ranges)
+{
+    double length = 0;
+    for (const auto& range : ranges)
+        length += range.within(level);
+    return length;
+}
+
+/// The length that everybody is given, within their own limits, when together they fill what is available. Between two
+/// limits the sum grows in proportion to the number of those who take part.
+double equalShare(double available, std::span<const Range> ranges)
+{
+    std::vector<double> limits { 0 };
+    for (const auto& range : ranges) {
+        limits.push_back(range.least);
+        limits.push_back(range.most);
+    }
+    std::ranges::sort(limits);
+    const auto above = std::ranges::find_if(limits, [&](double limit) { return lengthAt(limit, ranges) > available; });
+    if (above == limits.begin())
+        return 0;
+    if (above == limits.end())
+        return limits.back();
+    const double below = *std::prev(above);
+    const auto sharing =
+        std::ranges::count_if(ranges, [&](const Range& r) { return r.least <= below && r.most > below; });
+    return below + (available - lengthAt(below, ranges)) / static_cast<double>(sharing);
 }
 
 /// What is left of a length; of an infinite one everything.
@@ -53,11 +90,6 @@ double StackLayout::lengthOf(
 void StackLayout::share(
     std::vector<Child>& children, double available, ProposedLength across, const Environment& environment) const
 {
-    struct Range {
-        double least;
-        double most;
-        double flexibility() const { return std::isinf(most) ? most : most - least; }
-    };
     std::vector<Range> ranges;
     for (const auto& child : children)
         ranges.push_back({ lengthOf(child.view, 0, across, environment),
@@ -70,11 +102,15 @@ void StackLayout::share(
         for (const auto i : group)
             reserved -= ranges[i].least;
         std::ranges::stable_sort(group, {}, [&](std::size_t i) { return ranges[i].flexibility(); });
-        auto unserved = static_cast<double>(group.size());
-        for (const auto i : group) {
-            const double offered = remaining(available, reserved) / unserved--;
-            children[i].extent = measured(children[i].view, offered, across, environment);
-            available = remaining(available, along(children[i].extent.size));
+        std::vector<Range> unserved;
+        for (const auto i : group)
+            unserved.push_back(ranges[i]);
+        for (std::size_t served = 0; served < group.size(); ++served) {
+            const std::span rest(unserved.begin() + static_cast<std::ptrdiff_t>(served), unserved.end());
+            const double offered = rest.front().within(equalShare(remaining(available, reserved), rest));
+            auto& child = children[group[served]];
+            child.extent = measured(child.view, offered, across, environment);
+            available = remaining(available, along(child.extent.size));
         }
     }
 }

@@ -1,0 +1,46 @@
+#include "OrvelPlatform/Drawing/KeptSurfaces.h"
+
+#include <array>
+#include <bit>
+#include <cairo.h>
+#include <utility>
+
+namespace orvel {
+
+SurfaceKey& SurfaceKey::add(double number)
+{
+    const auto bytes = std::bit_cast<std::array<char, sizeof number>>(number);
+    m_bytes.append(bytes.begin(), bytes.end());
+    return *this;
+}
+
+SurfaceKey& SurfaceKey::add(std::string_view text)
+{
+    add(static_cast<double>(text.size()));
+    m_bytes += text;
+    return *this;
+}
+
+std::shared_ptr<cairo_surface_t> KeptSurfaces::find(const SurfaceKey& key, const std::function<SurfaceHandle()>& make)
+{
+    if (const auto found = m_byKey.find(key.bytes()); found != m_byKey.end()) {
+        m_entries.splice(m_entries.begin(), m_entries, found->second);
+        return found->second->surface;
+    }
+    std::shared_ptr<cairo_surface_t> surface(make());
+    const auto size = static_cast<std::size_t>(cairo_image_surface_get_stride(surface.get()))
+        * static_cast<std::size_t>(cairo_image_surface_get_height(surface.get()));
+    if (size > m_limit)
+        return surface;
+    m_entries.push_front({ key.bytes(), surface, size });
+    m_byKey.emplace(m_entries.front().key, m_entries.begin());
+    m_size += size;
+    while (m_size > m_limit) {
+        m_size -= m_entries.back().size;
+        m_byKey.erase(m_entries.back().key);
+        m_entries.pop_back();
+    }
+    return surface;
+}
+
+}

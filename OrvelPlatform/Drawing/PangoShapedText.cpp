@@ -1,0 +1,224 @@
+#include "OrvelPlatform/Drawing/PangoShapedText.h"
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+#include <pango/pangocairo.h>
+#include <pango/pangofc-font.h>
+#include <string_view>
+#include <utility>
+
+#include "OrvelPlatform/Views/Alignment.h"
+
+namespace orvel {
+
+namespace {
+
+double points(int units)
+{
+    return static_cast<double>(units) / PANGO_SCALE;
+}
+
+std::vector<PangoLayoutLine*> linesOf(PangoLayout* layout)
+{
+    std::vector<PangoLayoutLine*> lines;
+    for (auto* item = pango_layout_get_lines_readonly(layout); item; item = item->next)
+        lines.push_back(static_cast<PangoLayoutLine*>(item->data));
+    return lines;
+}
+
+std::vector<PangoGlyphItem*> itemsOf(const PangoLayoutLine* line)
+{
+    std::vector<PangoGlyphItem*> items;
+    for (auto* item = line->runs; item; item = item->next)
+        items.push_back(static_cast<PangoGlyphItem*>(item->data));
+    return items;
+}
+
+bool isEllipsis(const PangoGlyphItem* item)
+{
+    return (item->item->analysis.flags & PANGO_ANALYSIS_FLAG_IS_ELLIPSIS) != 0;
+}
+
+bool hasColors(PangoFont* font)
+{
+    FcBool isColored = FcFalse;
+    if (!PANGO_IS_FC_FONT(font))
+        return false;
+    FcPatternGetBool(pango_fc_font_get_pattern(PANGO_FC_FONT(font)), FC_COLOR, 0, &isColored);
+    return isColored == FcTrue;
+}
+
+/// The line's words as they are shown.
+std::string shownText(PangoLayout* layout, PangoLayoutLine* line)
+{
+    const std::string_view text(pango_layout_get_text(layout));
+    const auto start = static_cast<std::size_t>(pango_layout_line_get_start_index(line));
+    auto shown = text.substr(start, static_cast<std::size_t>(pango_layout_line_get_length(line)));
+    for (const auto* item : itemsOf(line)) {
+        if (isEllipsis(item))
+            return std::string(text.substr(start, static_cast<std::size_t>(item->item->offset) - start)) + "…";
+    }
+    while (shown.ends_with(' '))
+        shown.remove_suffix(1);
+    return std::string(shown);
+}
+
+PangoRectangle inkOf(PangoLayoutLine* line)
+{
+    PangoRectangle ink;
+    pango_layout_line_get_extents(line, &ink, nullptr);
+    return ink;
+}
+
+double widthOf(PangoLayoutLine* line)
+{
+    PangoRectangle logical;
+    pango_layout_line_get_extents(line, nullptr, &logical);
+    return points(logical.width);
+}
+
+HorizontalAlignment horizontal(TextAlignment alignment)
+{
+    switch (alignment) {
+    case TextAlignment::leading:
+        return HorizontalAlignment::leading;
+    case TextAlignment::center:
+        return HorizontalAlignment::center;
+    case TextAlignment::trailing:
+        return HorizontalAlignment::trailing;
+    }
+    return HorizontalAlignment::leading;
+}
+
+struct GlyphItemRelease {
+    void operator()(PangoGlyphItem* item) const { pango_glyph_item_free(item); }
+};
+using GlyphItem = std::unique_ptr<PangoGlyphItem, GlyphItemRelease>;
+
+double widthOf(const GlyphItem& item)
+{
+    return points(pango_glyph_string_get_width(item->glyphs));
+}
+
+/// The item's parts of one run each, in the order in which they are seen.
+std::vector<GlyphItem> partsByRun(const PangoGlyphItem* item, const char* text, const std::vector<std::size_t>& runEnds)
+{
+    std::vector<GlyphItem> parts;
+    GlyphItem rest(pango_glyph_item_copy(const_cast<PangoGlyphItem*>(item)));
+    for (const auto end : runEnds) {
+        const auto start = static_cast<std::size_t>(rest->item->offset);
+        if (end > start && end < start + static_cast<std::size_t>(rest->item->length))
+            parts.emplace_back(pango_glyph_item_split(rest.get(), text, static_cast<int>(end - start)));
+    }
+    const bool fromRight = rest->item->analysis.level % 2 != 0;
+    parts.push_back(std::move(rest));
+    if (fromRight)
+        std::ranges::reverse(parts);
+    return parts;
+}
+
+}
+
+PangoShapedText::PangoShapedText(
+    Handle<PangoLayout> layout, const TextBlock& block, std::vector<std::size_t> runEnds, double ascent, double descent)
+    : m_layout(std::move(layout)), m_runEnds(std::move(runEnds))
+{
+    setLines(block);
+    const double lineHeight = block.runs.front().style.lineHeight;
+    const double firstAt = (lineHeight - ascent - descent) / 2 + ascent;
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        m_baselines.push_back(static_cast<double>(i) * lineHeight + firstAt);
+    size.height = static_cast<double>(lines.size()) * lineHeight;
+    firstBaseline = m_baselines.front();
+    lastBaseline = m_baselines.back();
+    isCut = pango_layout_is_ellipsized(m_layout.get()) != FALSE;
+}
+
+PangoShapedText::~PangoShapedText() = default;
+
+void PangoShapedText::setLines(const TextBlock& block)
+{
+    for (auto* const line : linesOf(m_layout.get())) {
+        lines.push_back({ shownText(m_layout.get(), line), 0, widthOf(line) });
+        size.width = std::max(size.width, lines.back().width);
+        for (const auto* item : itemsOf(line))
+            m_hasColorGlyphs = m_hasColorGlyphs || hasColors(item->item->analysis.font);
+    }
+    for (auto& line : lines)
+        line.x = placedX(line.width, 0, size.width, horizontal(block.alignment), block.direction);
+}
+
+void PangoShapedText::addOutlines(cairo_t* context, std::size_t line, std::size_t run) const
+{
+    const char* const text = pango_layout_get_text(m_layout.get());
+    const auto begin = run == 0 ? 0 : m_runEnds.at(run - 1);
+    double x = 0;
+    for (const auto* item : itemsOf(linesOf(m_layout.get()).at(line))) {
+        for (const auto& part : partsByRun(item, text, m_runEnds)) {
+            const auto offset = static_cast<std::size_t>(part->item->offset);
+            if (offset >= begin && offset < m_runEnds.at(run)) {
+                cairo_rel_move_to(context, x, 0);
+                pango_cairo_glyph_string_path(context, part->item->analysis.font, part->glyphs);
+                x = 0;
+            }
+            x += widthOf(part);
+        }
+    }
+}
+
+PangoShapedText::Mask PangoShapedText::drawnMask(double scale, std::size_t run) const
+{
+    const auto all = linesOf(m_layout.get());
+    const auto baseline = [&](std::size_t line) { return std::round(m_baselines[line] * scale); };
+    double left = 0, top = 0, right = 0, bottom = 0;
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        const auto ink = inkOf(all[i]);
+        const double x = (lines[i].x + points(ink.x)) * scale;
+        const double y = baseline(i) + points(ink.y) * scale;
+        left = i == 0 ? x : std::min(left, x);
+        top = i == 0 ? y : std::min(top, y);
+        right = std::max(i == 0 ? x : right, x + points(ink.width) * scale);
+        bottom = std::max(i == 0 ? y : bottom, y + points(ink.height) * scale);
+    }
+    Mask mask { nullptr, static_cast<int>(std::floor(left)) - 1, static_cast<int>(std::floor(top)) - 1 };
+    mask.coverage.reset(cairo_image_surface_create(CAIRO_FORMAT_A8, static_cast<int>(std::ceil(right)) + 1 - mask.left,
+        static_cast<int>(std::ceil(bottom)) + 1 - mask.top));
+    const CairoHandle context(cairo_create(mask.coverage.get()));
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        cairo_identity_matrix(context.get());
+        cairo_translate(context.get(), lines[i].x * scale - mask.left, baseline(i) - mask.top);
+        cairo_scale(context.get(), scale, scale);
+        cairo_move_to(context.get(), 0, 0);
+        if (run == allRuns)
+            pango_cairo_layout_line_path(context.get(), all[i]);
+        else
+            addOutlines(context.get(), i, run);
+    }
+    cairo_fill(context.get());
+    return mask;
+}
+
+const PangoShapedText::Mask& PangoShapedText::maskOf(double scale, std::size_t run) const
+{
+    if (scale != m_maskScale) {
+        m_masks.clear();
+        m_masks.resize(m_runEnds.size() + 1);
+        m_maskScale = scale;
+    }
+    auto& mask = m_masks[run == allRuns ? m_runEnds.size() : run];
+    if (!mask.coverage)
+        mask = drawnMask(scale, run);
+    return mask;
+}
+
+void PangoShapedText::show(cairo_t* context) const
+{
+    const auto all = linesOf(m_layout.get());
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        cairo_move_to(context, lines[i].x, m_baselines[i]);
+        pango_cairo_show_layout_line(context, all[i]);
+    }
+}
+
+}

@@ -1,0 +1,159 @@
+#include "OrvelPlatform/Drawing/Sources.h"
+
+#include <algorithm>
+#include <cairo.h>
+#include <cmath>
+#include <span>
+
+#include "OrvelPlatform/Base/Match.h"
+#include "OrvelPlatform/Drawing/DeviceSpace.h"
+#include "OrvelPlatform/Drawing/GradientPixels.h"
+
+namespace orvel {
+
+namespace {
+
+constexpr int longestSide = 4096; // pixels; what is larger is left to the library's own gradients
+
+struct PatternRelease {
+    void operator()(cairo_pattern_t* pattern) const { cairo_pattern_destroy(pattern); }
+};
+using Pattern = std::unique_ptr<cairo_pattern_t, PatternRelease>;
+
+void addStops(cairo_pattern_t* pattern, const std::vector<GradientStop>& stops)
+{
+    for (const auto& [location, color] : stops)
+        cairo_pattern_add_color_stop_rgba(pattern, location, color.red, color.green, color.blue, color.alpha);
+}
+
+Pattern patternOf(const LinearGradient& gradient, const Rect& in)
+{
+    return Pattern(cairo_pattern_create_linear(in.x + gradient.start.x * in.width, in.y + gradient.start.y * in.height,
+        in.x + gradient.end.x * in.width, in.y + gradient.end.y * in.height));
+}
+
+Pattern patternOf(const RadialGradient& gradient, const Rect& in)
+{
+    const double x = in.x + gradient.center.x * in.width, y = in.y + gradient.center.y * in.height;
+    return Pattern(cairo_pattern_create_radial(x, y, 0, x, y, gradient.radius));
+}
+
+SurfaceKey keyOf(const LinearGradient& gradient)
+{
+    SurfaceKey key("linear");
+    key.add(gradient.start.x).add(gradient.start.y).add(gradient.end.x).add(gradient.end.y);
+    return key;
+}
+
+SurfaceKey keyOf(const RadialGradient& gradient)
+{
+    SurfaceKey key("radial");
+    key.add(gradient.center.x).add(gradient.center.y).add(gradient.radius);
+    return key;
+}
+
+void paintPixels(const PixelGrid& grid, const LinearGradient& gradient, double)
+{
+    paintGradient(grid, gradient);
+}
+
+void paintPixels(const PixelGrid& grid, const RadialGradient& gradient, double scale)
+{
+    paintGradient(grid, gradient, scale);
+}
+
+/// The painted rectangle in pixels, and the whole pixels that are kept for it.
+struct GradientPlace {
+    Rect painted;
+    PixelBox box;
+    double scale;
+};
+
+template <typename Gradient>
+SurfaceHandle surfaceOf(const Gradient& gradient, const GradientPlace& place)
+{
+    const auto& [painted, box, scale] = place;
+    const bool isOpaque =
+        std::ranges::all_of(gradient.stops, [](const GradientStop& stop) { return stop.color.alpha >= 1; });
+    SurfaceHandle surface(
+        cairo_image_surface_create(isOpaque ? CAIRO_FORMAT_RGB24 : CAIRO_FORMAT_ARGB32, box.width, box.height));
+    auto* const pixels = reinterpret_cast<std::uint32_t*>(cairo_image_surface_get_data(surface.get()));
+    const auto width = static_cast<std::size_t>(cairo_image_surface_get_stride(surface.get())) / sizeof *pixels;
+    paintPixels({ std::span(pixels, width * static_cast<std::size_t>(box.height)), width,
+                    { painted.x - box.left, painted.y - box.top, painted.width, painted.height } },
+        gradient, scale);
+    cairo_surface_mark_dirty(surface.get());
+    return surface;
+}
+
+template <typename Gradient>
+bool setGradient(const Sources& sources, cairo_t* context, const Gradient& gradient, const PaintedArea& area)
+{
+    const GradientPlace place { inPixels(context, area.rect),
+        pixelsAround(inPixels(context, area.rect.insetBy(-area.margin))), scaleOf(context) };
+    const auto& [painted, box, scale] = place;
+    if (gradient.stops.empty() || box.width < 1 || box.height < 1)
+        return false;
+    if (sources.isVector || box.width > longestSide || box.height > longestSide) {
+        const auto pattern = patternOf(gradient, area.rect);
+        addStops(pattern.get(), gradient.stops);
+        cairo_set_source(context, pattern.get());
+        return true;
+    }
+    auto key = keyOf(gradient);
+    for (const auto& [location, color] : gradient.stops)
+        key.add(location).add(color.red).add(color.green).add(color.blue).add(color.alpha);
+    key.add(painted.x - box.left).add(painted.y - box.top).add(painted.width).add(painted.height);
+    key.add(box.width).add(box.height).add(scale);
+    const auto surface = sources.kept.find(key, [&] { return surfaceOf(gradient, place); });
+    const PixelScope pixels(context);
+    cairo_set_source_surface(context, surface.get(), box.left, box.top);
+    cairo_pattern_set_filter(cairo_get_source(context), CAIRO_FILTER_NEAREST);
+    return true;
+}
+
+SurfaceHandle fadedTile(cairo_surface_t* tile, double opacity)
+{
+    SurfaceHandle faded(cairo_image_surface_create(
+        CAIRO_FORMAT_ARGB32, cairo_image_surface_get_width(tile), cairo_image_surface_get_height(tile)));
+    const CairoHandle context(cairo_create(faded.get()));
+    cairo_set_source_surface(context.get(), tile, 0, 0);
+    cairo_paint_with_alpha(context.get(), opacity);
+    return faded;
+}
+
+/// A tile's pixel is a device pixel, so that it is as fine as can be seen.
+bool setTexture(const Sources& sources, cairo_t* context, const Texture& texture, const Rect& in)
+{
+    const auto found = sources.textures.find(texture.name);
+    if (found == sources.textures.end() || texture.opacity <= 0)
+        return false;
+    SurfaceKey key("texture");
+    key.add(texture.name).add(texture.opacity);
+    const auto tile = sources.kept.find(key, [&] { return fadedTile(found->second.get(), texture.opacity); });
+    const auto corner = inPixels(context, in);
+    const PixelScope pixels(context);
+    cairo_set_source_surface(context, tile.get(), std::round(corner.x), std::round(corner.y));
+    cairo_pattern_set_extend(cairo_get_source(context), CAIRO_EXTEND_REPEAT);
+    cairo_pattern_set_filter(cairo_get_source(context), CAIRO_FILTER_NEAREST);
+    return true;
+}
+
+}
+
+bool setSource(const Sources& sources, cairo_t* context, const Paint& paint, const PaintedArea& area)
+{
+    return std::visit(Match {
+                          [&](const Color& color) {
+                              cairo_set_source_rgba(context, color.red, color.green, color.blue, color.alpha);
+                              return color.alpha > 0;
+                          },
+                          [&](const LinearGradient& gradient) { return setGradient(sources, context, gradient, area); },
+                          [&](const RadialGradient& gradient) { return setGradient(sources, context, gradient, area); },
+                          [&](const Texture& texture) { return setTexture(sources, context, texture, area.rect); },
+                          [](const Erase&) { return false; },
+                      },
+        paint);
+}
+
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+
+#include "OrvelPlatform/Drawing/KeptSurfaces.h"
+#include "OrvelPlatform/Views/Paint.h"
+
+namespace orvel {
+
+using TextureTiles = std::map<std::string, std::shared_ptr<_cairo_surface>, std::less<>>;
+
+/// Where a canvas takes what it paints with.
+struct Sources {
+    KeptSurfaces& kept;
+    const TextureTiles& textures;
+    bool isVector; // no pixels: gradients stay gradients
+};
+
+/// What a paint is laid out on, and how far beyond it the drawing may reach; in points.
+struct PaintedArea {
+    Rect rect;
+    double margin;
+};
+
+/// Makes a paint the context's source; false where it paints nothing.
+bool setSource(const Sources& sources, _cairo* context, const Paint& paint, const PaintedArea& area);
+
+}
