@@ -48,4 +48,10 @@ struct Extent {
     bool operator==(const Extent&) const = default;
 };
 
+/// The extent of a view that takes all the room it is offered, and none by itself.
+constexpr Extent allOf(const Proposal& proposed)
+{
+    return Size { proposed.width.value_or(0), proposed.height.value_or(0) };
+}
+
 }

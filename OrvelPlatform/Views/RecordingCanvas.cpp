@@ -38,7 +38,9 @@ std::string described(const Paint& paint)
         Match {
             [](const Color& color) { return described(color); },
             [](const LinearGradient& gradient) { return "linear" + described(gradient.stops); },
-            [](const RadialGradient& gradient) { return "radial" + described(gradient.stops); },
+            [](const RadialGradient& gradient) {
+                return "radial " + number(gradient.radius) + described(gradient.stops);
+            },
             [](const Texture& texture) { return fmt::format("texture {} {}", texture.name, number(texture.opacity)); },
             [](const Erase&) { return std::string("erase"); },
         },

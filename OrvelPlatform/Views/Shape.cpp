@@ -4,7 +4,7 @@ namespace orvel {
 
 Extent Shape::measure(const Proposal& proposed, const Environment&) const
 {
-    return Size { proposed.width.value_or(0), proposed.height.value_or(0) };
+    return allOf(proposed);
 }
 
 void Shape::draw(Canvas& canvas, const Rect& in, const Environment&) const

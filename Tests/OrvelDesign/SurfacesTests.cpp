@@ -67,18 +67,3 @@ TEST(OrvelBackgrounds, laySomeGrainOnlyWhereItMayShow)
     EXPECT_FALSE(Grain::opacity(dark.with<ColorSchemeContrastKey>(ColorSchemeContrast::increased)));
     EXPECT_TRUE(Grain::opacity(dark.with<OrvelAccessibilityKey>({ .reduceMotion = true })));
 }
-
-TEST(Grain, isEvenAndRepeats)
-{
-    double sum = 0;
-    for (int y = 0; y < Grain::tileSide; ++y) {
-        double row = 0;
-        for (int x = 0; x < Grain::tileSide; ++x)
-            row += Grain::grey(x, y);
-        EXPECT_NEAR(row / Grain::tileSide, 0.5, 0.12) << "a stripe at " << y;
-        sum += row;
-    }
-    EXPECT_NEAR(sum / (Grain::tileSide * Grain::tileSide), 0.5, 0.01);
-    EXPECT_EQ(Grain::grey(3, 5), Grain::grey(3 - Grain::tileSide, 5 + 2 * Grain::tileSide));
-    EXPECT_NE(Grain::grey(3, 5), Grain::grey(5, 3));
-}

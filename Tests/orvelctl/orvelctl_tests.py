@@ -2,6 +2,7 @@
 
 import json
 import os
+import struct
 import subprocess
 import sys
 import tempfile
@@ -147,6 +148,36 @@ class OrvelctlTests(unittest.TestCase):
         self.assertEqual(json.loads(parsed), {"case": "breathe", "minutes": 5, "style": ""})
         self.assertEqual(call("link", "parse", "nonsense").stdout, b"case     main\n")
 
+    def picture(self, *arguments):
+        path = os.path.join(self.folder.name, "picture.png")
+        result = call(*arguments, "-o", path)
+        self.assertEqual((result.returncode, result.stdout, result.stderr), (0, b"", b""))
+        with open(path, "rb") as file:
+            picture = file.read()
+        self.assertEqual(picture[:8], b"\x89PNG\r\n\x1a\n")
+        return picture, struct.unpack(">II", picture[16:24])
+
+    def test_the_orb_and_the_glyph_become_pictures(self):
+        for arguments, side in [
+            (["glyph", "idle", "--scale", "1"], 22),
+            (["glyph", "fix"], 44),
+            (["glyph", "active", "1", "--scale", "3"], 66),
+            (["orb", "--size", "56", "--scale", "1"], 144),
+            (["orb", "--size", "56", "--motion", "exhale", "--progress", "1"], 288),
+        ]:
+            self.assertEqual(self.picture(*arguments)[1], (side, side), arguments)
+        half, _ = self.picture("glyph", "focus", "0.5")
+        self.assertEqual(call("glyph", "focus", "0.5", "-o", "-").stdout, half)
+        self.assertNotEqual(self.picture("glyph", "focus", "0.6")[0], half)
+        orb = ["orb", "--motion", "inhale", "--size", "56"]
+        self.assertEqual(len({self.picture(*orb, *more)[0] for more in [
+            [], ["--progress", "0.5"], ["--progress", "1"], ["--appearance", "dawn"]]}), 4)
+        drawing = os.path.join(self.folder.name, "orb.svg")
+        self.assertEqual(call("orb", "-o", drawing).returncode, 0)
+        with open(drawing, encoding="utf-8") as file:
+            self.assertIn("<radialGradient", file.read())
+        self.assert_fails(call("glyph", "idle", "-o", os.path.join(self.folder.name, "none", "a.png")), 1, "No such file")
+
     def test_a_wrong_call_is_one_line_and_code_2(self):
         for arguments, text in [
             ([], "a command is missing"),
@@ -167,6 +198,18 @@ class OrvelctlTests(unittest.TestCase):
             (["metrics", "--scale", "0"], "0"),
             (["snapshot", "sample", "--state", "bored"], "bored"),
             (["snapshot", "check"], "file"),
+            (["glyph", "asleep", "-o", "a.png"], "asleep"),
+            (["glyph", "focus", "-o", "a.png"], "VALUE"),
+            (["glyph", "idle", "0.5", "-o", "a.png"], "VALUE"),
+            (["glyph", "focus", "1.3", "-o", "a.png"], "1.3"),
+            (["glyph", "fix", "--scale", "0", "-o", "a.png"], "--scale"),
+            (["glyph", "fix", "-o", "a.svg"], "a.svg"),
+            (["glyph", "fix"], "output"),
+            (["orb", "--motion", "sideways", "-o", "a.png"], "sideways"),
+            (["orb", "--motion", "inhale", "--progress", "nan", "-o", "a.png"], "nan"),
+            (["orb", "--progress", "0.5", "-o", "a.png"], "--motion"),
+            (["orb", "--size", "281", "-o", "a.png"], "281"),
+            (["orb", "-o", "a.jpg"], "a.jpg"),
             (["link", "make", "moon"], "moon"),
             (["link", "make", "breathe", "--minutes", "few"], "few"),
             (["link", "make", "focus", "--minutes", "3"], "breathe only"),

@@ -26,6 +26,8 @@ void addContentCommand(CLI::App& app, Action& action);
 void addControlCommand(CLI::App& app, Action& action);
 void addTokensCommand(CLI::App& app, Action& action);
 void addMetricsCommand(CLI::App& app, Action& action);
+void addGlyphCommand(CLI::App& app, Action& action);
+void addOrbCommand(CLI::App& app, Action& action);
 
 /// Makes `command` set `action` when the call names it.
 void runs(CLI::App* command, Action& action, Action what);

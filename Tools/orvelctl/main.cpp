@@ -30,6 +30,8 @@ Exit run(int argc, const char* const* argv)
     addSnapshotCommand(app, action);
     addTokensCommand(app, action);
     addMetricsCommand(app, action);
+    addGlyphCommand(app, action);
+    addOrbCommand(app, action);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
