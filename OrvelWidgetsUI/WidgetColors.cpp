@@ -105,7 +105,7 @@ WidgetInk WidgetColors::orbPool() const
 
 WidgetInk WidgetColors::line() const
 {
-    return ink(look, Palette::line, tertiary);
+    return ink(look, Palette::line, quaternary);
 }
 
 WidgetInk WidgetColors::todayBar() const

@@ -109,4 +109,10 @@ LanguageScope::~LanguageScope()
 
 }
 
+bool isRightToLeft()
+{
+    const auto* named = Detail::requestedLanguage();
+    return (named ? *named : languageOfProcess()).isRightToLeft();
+}
+
 }

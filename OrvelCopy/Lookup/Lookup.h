@@ -108,6 +108,9 @@ std::string localized(Written, const Values&... values)
     return Detail::composedText(key, std::array<Insertion, sizeof...(Values)> { Detail::insertion(values)... });
 }
 
+/// Whether the words of this thread's request, or else the process's own, are written from right to left.
+bool isRightToLeft();
+
 /// Does `work` with every text that it asks for, constants too, in the language of `locale`; absent, it changes
 /// nothing. Other threads and what the process keeps of its own language are not touched.
 ///

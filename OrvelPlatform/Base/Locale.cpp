@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <unicode/locid.h>
+#include <unicode/unistr.h>
 
 namespace orvel {
 
@@ -186,6 +187,14 @@ std::vector<Locale> Locale::preferred(std::string_view wordsSetting)
 bool Locale::isRightToLeft() const
 {
     return icuLocale(m_identifier).isRightToLeft();
+}
+
+std::string Locale::uppercased(std::string_view text) const
+{
+    std::string capitals;
+    const auto length = static_cast<std::int32_t>(text.size());
+    icu::UnicodeString::fromUTF8({ text.data(), length }).toUpper(icuLocale(m_identifier)).toUTF8String(capitals);
+    return capitals;
 }
 
 std::vector<std::string> Locale::languageAndParents() const

@@ -61,6 +61,10 @@ public:
     /// Names joined as in a sentence: "A, B and C". One name is itself, none are an empty text.
     std::string list(std::span<const std::string> names) const;
 
+    /// A text in capitals, as the language has them: of "ß" two, in Turkish a dot on that of "i". What is not UTF-8
+    /// becomes replacement characters.
+    std::string uppercased(std::string_view text) const;
+
     bool operator==(const Locale& other) const { return m_identifier == other.m_identifier; }
 
 private:

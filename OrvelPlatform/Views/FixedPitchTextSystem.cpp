@@ -90,11 +90,22 @@ void endInEllipsis(Letters& line, double width, double ellipsis)
     line.push_back({ "…", ellipsis });
 }
 
-/// The narrowest width that needs no more lines.
+double widthOfLongestWord(const Letters& all)
+{
+    double longest = 0, word = 0;
+    for (const auto& letter : all) {
+        word = letter.isSpace() ? 0 : word + letter.width;
+        longest = std::max(longest, word);
+    }
+    return longest;
+}
+
+/// The narrowest width that needs no more lines and breaks no word.
 std::vector<Letters> balanced(const Letters& all, std::vector<Letters> lines, double width)
 {
     const double step = all.front().width;
-    for (double narrower = width - step; narrower > 0; narrower -= step) {
+    const double least = widthOfLongestWord(all);
+    for (double narrower = width - step; narrower >= least; narrower -= step) {
         auto attempt = broken(all, narrower);
         if (attempt.size() > lines.size())
             break;

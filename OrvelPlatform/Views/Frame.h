@@ -24,8 +24,8 @@ struct FrameLength {
 
 /// A place of its own size for a view; the view stands in it by the alignment, and overhangs where it is larger.
 struct Frame {
-    FrameLength width;
-    FrameLength height;
+    FrameLength width {};
+    FrameLength height {};
     Alignment alignment = Alignment::center;
     View content;
 

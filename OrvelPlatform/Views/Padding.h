@@ -6,7 +6,7 @@ namespace orvel {
 
 /// Room round a view.
 struct Padding {
-    Insets insets;
+    Insets insets {};
     View content;
 
     Extent measure(const Proposal& proposed, const Environment& environment) const;

@@ -8,7 +8,7 @@
 
 #include "OrvelCopy/Widgets.h"
 #include "OrvelPlatform/Base/TextColumns.h"
-#include "Tools/orvelctl/Terminal.h"
+#include "Tools/orvelctl/calls/Terminal.h"
 
 namespace orvelctl {
 

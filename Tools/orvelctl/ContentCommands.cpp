@@ -3,8 +3,8 @@
 #include "OrvelPlatform/Base/JsonEncoding.h"
 #include "OrvelWidgetsUI/ContentForm.h"
 #include "Tools/orvelctl/Card.h"
-#include "Tools/orvelctl/Command.h"
-#include "Tools/orvelctl/Request.h"
+#include "Tools/orvelctl/Commands.h"
+#include "Tools/orvelctl/calls/Request.h"
 
 namespace orvelctl {
 

@@ -1,6 +1,6 @@
 #include <memory>
 
-#include "Tools/orvelctl/Command.h"
+#include "Tools/orvelctl/Commands.h"
 #include "Tools/orvelctl/exports/MetricsExport.h"
 #include "Tools/orvelctl/exports/TokensExport.h"
 

@@ -4,7 +4,7 @@
 
 #include "OrvelPlatform/Base/JsonEncoding.h"
 #include "OrvelShared/OrvelLink.h"
-#include "Tools/orvelctl/Command.h"
+#include "Tools/orvelctl/Commands.h"
 
 namespace orvelctl {
 

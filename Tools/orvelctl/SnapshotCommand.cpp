@@ -3,8 +3,8 @@
 #include "OrvelPlatform/Base/JsonEncoding.h"
 #include "OrvelShared/WidgetSnapshotForm.h"
 #include "OrvelWidgetsUI/WidgetFixtures.h"
-#include "Tools/orvelctl/Command.h"
-#include "Tools/orvelctl/SnapshotSource.h"
+#include "Tools/orvelctl/Commands.h"
+#include "Tools/orvelctl/calls/SnapshotSource.h"
 
 namespace orvelctl {
 

@@ -2,9 +2,9 @@
 
 #include "OrvelWidgets/OrvelProvider.h"
 #include "Tools/orvelctl/Card.h"
-#include "Tools/orvelctl/Command.h"
-#include "Tools/orvelctl/Request.h"
+#include "Tools/orvelctl/Commands.h"
 #include "Tools/orvelctl/TimelineReport.h"
+#include "Tools/orvelctl/calls/Request.h"
 
 namespace orvelctl {
 

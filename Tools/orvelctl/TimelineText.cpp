@@ -5,8 +5,8 @@
 #include "OrvelWidgetsUI/WidgetContent.h"
 #include "Tools/orvelctl/PhaseName.h"
 #include "Tools/orvelctl/Table.h"
-#include "Tools/orvelctl/Terminal.h"
 #include "Tools/orvelctl/TimelineReport.h"
+#include "Tools/orvelctl/calls/Terminal.h"
 
 namespace orvelctl {
 

@@ -246,6 +246,14 @@ TEST(Locales, serveManyThreads)
     }
 }
 
+TEST(Locales, haveTheirOwnCapitals)
+{
+    EXPECT_EQ(locale("en").uppercased("Paused – Ruhig"), "PAUSED – RUHIG");
+    EXPECT_EQ(locale("de").uppercased("groß"), "GROSS");
+    EXPECT_EQ(locale("tr").uppercased("şimdi"), "ŞİMDİ");
+    EXPECT_EQ(locale("ja").uppercased("次は"), "次は");
+}
+
 TEST(Locales, keepWhatIsSlowToMake)
 {
     const auto costOf = [](const auto& work) {

@@ -1,4 +1,4 @@
-#include "Tools/orvelctl/Terminal.h"
+#include "Tools/orvelctl/calls/Terminal.h"
 
 #include <cstdio>
 #include <fmt/format.h>

@@ -1,4 +1,4 @@
-#include "Tools/orvelctl/Request.h"
+#include "Tools/orvelctl/calls/Request.h"
 
 #include "OrvelCopy/Lookup/Lookup.h"
 #include "OrvelWidgetsUI/WidgetFixtures.h"

@@ -1,4 +1,4 @@
-#include "Tools/orvelctl/PictureFile.h"
+#include "Tools/orvelctl/pictures/PictureFile.h"
 
 #include <cerrno>
 #include <cstring>

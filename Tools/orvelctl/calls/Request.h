@@ -5,8 +5,8 @@
 #include <string>
 
 #include "OrvelWidgets/OrvelProvider.h"
-#include "Tools/orvelctl/Command.h"
-#include "Tools/orvelctl/SnapshotSource.h"
+#include "Tools/orvelctl/calls/Command.h"
+#include "Tools/orvelctl/calls/SnapshotSource.h"
 
 namespace orvelctl {
 

@@ -12,7 +12,8 @@
 #include "OrvelDesign/OrbSize.h"
 #include "OrvelPlatform/Drawing/Renderer.h"
 #include "OrvelPlatform/Views/Frame.h"
-#include "Tools/orvelctl/PictureFile.h"
+#include "Tools/orvelctl/pictures/Commands.h"
+#include "Tools/orvelctl/pictures/PictureFile.h"
 
 namespace orvelctl {
 

@@ -11,23 +11,12 @@
 #include "OrvelPlatform/Base/Calendar.h"
 #include "OrvelPlatform/Base/Date.h"
 #include "OrvelPlatform/Base/Locale.h"
-#include "Tools/orvelctl/Terminal.h"
+#include "Tools/orvelctl/calls/Terminal.h"
 
 namespace orvelctl {
 
 /// The command that the call names, to be run once the whole call has been understood.
 using Action = std::function<Exit()>;
-
-/// Each adds one command; parsing it sets `action`.
-void addTimelineCommand(CLI::App& app, Action& action);
-void addLinkCommand(CLI::App& app, Action& action);
-void addSnapshotCommand(CLI::App& app, Action& action);
-void addContentCommand(CLI::App& app, Action& action);
-void addControlCommand(CLI::App& app, Action& action);
-void addTokensCommand(CLI::App& app, Action& action);
-void addMetricsCommand(CLI::App& app, Action& action);
-void addGlyphCommand(CLI::App& app, Action& action);
-void addOrbCommand(CLI::App& app, Action& action);
 
 /// Makes `command` set `action` when the call names it.
 void runs(CLI::App* command, Action& action, Action what);

@@ -3,7 +3,7 @@
 #include <expected>
 #include <string>
 
-#include "Tools/orvelctl/Command.h"
+#include "Tools/orvelctl/calls/Command.h"
 
 namespace orvelctl {
 

@@ -1,4 +1,4 @@
-#include "Tools/orvelctl/SnapshotSource.h"
+#include "Tools/orvelctl/calls/SnapshotSource.h"
 
 #include <cstdio>
 

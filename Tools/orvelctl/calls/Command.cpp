@@ -1,4 +1,4 @@
-#include "Tools/orvelctl/Command.h"
+#include "Tools/orvelctl/calls/Command.h"
 
 #include <fmt/format.h>
 

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "OrvelDesign/EnvironmentValues.h"
+#include "OrvelPlatform/Drawing/Renderer.h"
+#include "OrvelWidgetsUI/Drawn/ControlStandIn.h"
+#include "OrvelWidgetsUI/WidgetContent.h"
+#include "OrvelWidgetsUI/WidgetLook.h"
+#include "OrvelWidgetsUI/WidgetSize.h"
+#include "Tools/orvelctl/calls/Command.h"
+
+namespace orvelctl {
+
+/// An option whose values are the cases of an enumeration.
+template <typename Enum>
+void addCaseOption(CLI::App* command, const std::string& name, std::string_view type, const std::string& what,
+    std::function<void(Enum)> set)
+{
+    const auto& cases = orvel::rawValues<Enum>;
+    const auto setCase = [set = std::move(set)](const std::string& text) { set(*orvel::fromRawValue<Enum>(text)); };
+    command->add_option_function<std::string>(name, setCase, what)
+        ->type_name(std::string(type))
+        ->check(CLI::IsMember(std::vector<std::string>(cases.begin(), cases.end())));
+}
+
+/// A view with the size that it is drawn in, in points.
+struct SizedView {
+    orvel::View view;
+    orvel::Size size;
+};
+
+/// A widget as a desktop shows it: with its background and round corners. A content of the breathe widget is small.
+SizedView widgetPicture(const orvel::WidgetContent& content, orvel::WidgetSize size, orvel::WidgetLook look);
+
+/// Frames round all that is drawn and all that is read aloud or acts, on top of it.
+orvel::View outlined(orvel::View content);
+
+/// The environment of words in a locale: its capitals, and the direction of the words that there are in it.
+orvel::Environment wordsEnvironment(const std::optional<orvel::Locale>& locale);
+
+/// A renderer with the design system's typefaces and symbols.
+orvel::Renderer designRenderer();
+
+/// Writes a file, or standard output where the path is empty and nobody looks at it in a terminal.
+Exit save(const std::string& path, std::string_view bytes);
+
+/// Draws with as many pixels a point and saves as PNG, or as SVG where the path ends in that.
+Exit draw(orvel::Renderer& renderer, const SizedView& view, double scale, const orvel::Environment& environment,
+    const std::string& path);
+
+}
