@@ -2,6 +2,7 @@
 
 import json
 import os
+import re
 import struct
 import subprocess
 import sys
@@ -178,6 +179,47 @@ class OrvelctlTests(unittest.TestCase):
             self.assertIn("<radialGradient", file.read())
         self.assert_fails(call("glyph", "idle", "-o", os.path.join(self.folder.name, "none", "a.png")), 1, "No such file")
 
+    def test_widgets_become_pictures(self):
+        snapshot = ["--snapshot", self.file(self.sample("focus")), "--at", NOW, *BERLIN]
+        for arguments, size in [
+            (["--size", "small", "--scale", "1"], (170, 170)),
+            (["--size", "medium"], (728, 340)),
+            (["--size", "large", "--look", "clear"], (728, 764)),
+            (["--widget", "breathe"], (340, 340)),
+            (["--size", "small", "--scale", "1", "--bigger", "2"], (223, 223)),
+        ]:
+            self.assertEqual(self.picture("draw", *snapshot, *arguments)[1], size, arguments)
+        self.assertEqual(len({self.picture("draw", *snapshot, "--size", "large", *more)[0] for more in [
+            [], ["--look", "dawn"], ["--contrast", "more"], ["--outline"], ["--locale", "de"]]}), 5)
+        svg = call("draw", *snapshot, "-o", os.path.join(self.folder.name, "widget.svg"))
+        self.assertEqual(svg.returncode, 0, svg)
+
+    def test_a_day_has_each_picture_once(self):
+        def sheet(state):
+            path = os.path.join(self.folder.name, "day.png")
+            result = call("day", "--snapshot", self.file(self.sample(state)), "--at", NOW, *BERLIN, "--size", "small",
+                          "--out", path)
+            self.assertEqual((result.returncode, result.stdout, result.stderr), (0, b"", b""))
+            with open(path, "rb") as file:
+                return struct.unpack(">II", file.read(24)[16:])
+
+        one = (2 * (170 + 2 * 24), 2 * (170 + 4 + 32 + 2 * 24))
+        self.assertEqual(sheet("none"), one)
+        self.assertEqual(sheet("next"), one)
+        across, down = sheet("focus")  # at least its 38 minutes, one each
+        gap, cell = 2 * 24, (2 * (170 + 24), 2 * (170 + 4 + 32 + 24))
+        self.assertGreaterEqual((across - gap) // cell[0] * ((down - gap) // cell[1]), 38)
+
+    def test_a_gallery_shows_every_picture_that_it_makes(self):
+        folder = os.path.join(self.folder.name, "new", "gallery")
+        result = call("gallery", "--out", folder, *BERLIN, "--locale", "en-GB")
+        self.assertEqual((result.returncode, result.stdout, result.stderr), (0, b"", b""))
+        with open(os.path.join(folder, "index.html"), encoding="utf-8") as file:
+            shown = re.findall(r'src="([^"]+)"', file.read())
+        self.assertEqual(len(shown), len(set(shown)))
+        self.assertEqual(sorted([*shown, "index.html"]), sorted(os.listdir(folder)))
+        self.assert_fails(call("gallery", "--out", "/proc/none"), 1, "/proc/none")
+
     def test_a_wrong_call_is_one_line_and_code_2(self):
         for arguments, text in [
             ([], "a command is missing"),
@@ -210,6 +252,16 @@ class OrvelctlTests(unittest.TestCase):
             (["orb", "--progress", "0.5", "-o", "a.png"], "--motion"),
             (["orb", "--size", "281", "-o", "a.png"], "281"),
             (["orb", "-o", "a.jpg"], "a.jpg"),
+            (["draw", "--size", "huge", "-o", "a.png"], "huge"),
+            (["draw", "--look", "noon", "-o", "a.png"], "noon"),
+            (["draw", "--widget", "breathe", "--size", "large", "-o", "a.png"], "breathe"),
+            (["draw", "--scale", "5", "-o", "a.png"], "5"),
+            (["draw", "--scale", "nan", "-o", "a.png"], "nan"),
+            (["draw", "--contrast", "less", "-o", "a.png"], "less"),
+            (["draw", "--bigger", "5", "-o", "a.png"], "5"),
+            (["draw"], "output"),
+            (["day", "--out", "a.gif"], "a.gif"),
+            (["gallery"], "--out"),
             (["link", "make", "moon"], "moon"),
             (["link", "make", "breathe", "--minutes", "few"], "few"),
             (["link", "make", "focus", "--minutes", "3"], "breathe only"),

@@ -47,6 +47,16 @@ void addLocaleOption(CLI::App* command, std::optional<orvel::Locale>& locale)
         ->type_name("LOCALE");
 }
 
+CLI::Validator within(double least, double most)
+{
+    const auto check = [least, most](std::string& text) {
+        double value = 0;
+        const bool isWithin = CLI::detail::lexical_cast(text, value) && value >= least && value <= most;
+        return isWithin ? std::string() : fmt::format("\"{}\" is not between {} and {}", printable(text), least, most);
+    };
+    return { check, fmt::format("{} to {}", least, most) };
+}
+
 orvel::Calendar calendar(const std::optional<orvel::TimeZone>& zone)
 {
     return zone ? orvel::Calendar(*zone) : orvel::Calendar::current();

@@ -30,6 +30,9 @@ void addTimeZoneOption(CLI::App* command, std::optional<orvel::TimeZone>& zone);
 /// `--locale L`: the language of words and the habits of formats; without it the user's own of each.
 void addLocaleOption(CLI::App* command, std::optional<orvel::Locale>& locale);
 
+/// A number within bounds; what is no number is none of them either.
+CLI::Validator within(double least, double most);
+
 /// The calendar of a zone, or the user's.
 orvel::Calendar calendar(const std::optional<orvel::TimeZone>& zone);
 

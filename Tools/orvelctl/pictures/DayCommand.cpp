@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "OrvelCopy/Format.h"
+#include "OrvelDesign/DesignBundle.h"
 #include "OrvelPlatform/Views/Primitives.h"
 #include "OrvelPlatform/Views/RecordingCanvas.h"
 #include "OrvelWidgets/OrvelProvider.h"
@@ -22,7 +23,7 @@ struct Call {
     Request request;
     WidgetSize size = WidgetSize::medium;
     WidgetLook look = WidgetLook::dusk;
-    std::string file;
+    PictureFile file;
 };
 
 /// A picture, and from when until when it is to be seen.
@@ -154,7 +155,7 @@ double scaleFor(Size size)
 Exit drawDay(const Call& call)
 {
     return withSituation(call.request, [&](const Situation& situation) {
-        auto renderer = designRenderer();
+        Renderer renderer(designBundle(), FontScope::ownProcess);
         const auto environment = renderer.environment(wordsEnvironment(call.request.locale));
         const auto start = situation.calendar.startOfDay(situation.now);
         const auto end = situation.calendar.addingDays(1, start).value_or(start + std::chrono::hours { 24 });
@@ -176,7 +177,7 @@ void addDayCommand(CLI::App& app, Action& action)
         [call](WidgetLook look) { call->look = look; });
     call->request.addOptions(command, "--at");
     command->remove_option(command->get_option("--json"));
-    command->add_option("--out", call->file, "The file, .svg for SVG, else PNG")->type_name("FILE")->required();
+    addPictureFileOption(command, call->file, PictureFormats::pngAndSvg, "--out");
     runs(command, action, [call] { return drawDay(*call); });
 }
 

@@ -37,17 +37,6 @@ struct OrbCall {
     PictureFile file;
 };
 
-/// A number within bounds; what is no number is none of them either.
-CLI::Validator within(double least, double most)
-{
-    const auto check = [least, most](std::string& text) {
-        double value = 0;
-        const bool isWithin = CLI::detail::lexical_cast(text, value) && value >= least && value <= most;
-        return isWithin ? std::string() : fmt::format("\"{}\" is not between {} and {}", printable(text), least, most);
-    };
-    return { check, fmt::format("{} to {}", least, most) };
-}
-
 /// Adds an option with an enumeration's cases as its values.
 template <typename Take>
 void addChoice(CLI::App* command, const std::string& name, const std::vector<std::string>& choices, const Take& take,

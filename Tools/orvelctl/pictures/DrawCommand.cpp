@@ -1,5 +1,6 @@
 #include <memory>
 
+#include "OrvelDesign/DesignBundle.h"
 #include "Tools/orvelctl/calls/Command.h"
 #include "Tools/orvelctl/calls/Request.h"
 #include "Tools/orvelctl/pictures/Commands.h"
@@ -20,7 +21,7 @@ struct Call {
     ColorSchemeContrast contrast = ColorSchemeContrast::standard;
     int bigger = 0;
     bool isOutlined = false;
-    std::string file;
+    PictureFile file;
 
     bool isBreathe() const { return widget == "breathe"; }
 };
@@ -41,7 +42,7 @@ Exit drawWidget(const Call& call)
         const auto environment = wordsEnvironment(call.request.locale)
                                      .with<ColorSchemeContrastKey>(call.contrast)
                                      .with<OrvelBiggerTextKey>(BiggerText(call.bigger));
-        auto renderer = designRenderer();
+        Renderer renderer(designBundle(), FontScope::ownProcess);
         return draw(renderer, picture, call.scale, environment, call.file);
     });
 }
@@ -61,9 +62,7 @@ void addDrawCommand(CLI::App& app, Action& action)
         [call](WidgetLook look) { call->look = look; });
     call->request.addOptions(command, "--at");
     command->remove_option(command->get_option("--json"));
-    command->add_option("--scale", call->scale, "Pixels in a point, 1 to 4")
-        ->type_name("SCALE")
-        ->check(CLI::Range(1.0, 4.0));
+    command->add_option("--scale", call->scale, "Pixels in a point, 1 to 4")->type_name("SCALE")->check(within(1, 4));
     command
         ->add_option_function<std::string>(
             "--contrast",
@@ -77,8 +76,7 @@ void addDrawCommand(CLI::App& app, Action& action)
         ->type_name("STEPS")
         ->check(CLI::Range(0, BiggerText::maxSteps));
     command->add_flag("--outline", call->isOutlined, "Frame all that is drawn and all that is read aloud");
-    command->add_option("-o", call->file, "The file, .svg for SVG, else PNG; without it standard output")
-        ->type_name("FILE");
+    addPictureFileOption(command, call->file, PictureFormats::pngAndSvg);
     runs(command, action, [call] { return drawWidget(*call); });
 }
 

@@ -1,13 +1,8 @@
 #include "Tools/orvelctl/pictures/Drawing.h"
 
-#include <fmt/format.h>
-#include <unistd.h>
-
 #include "OrvelCopy/Lookup/Lookup.h"
 #include "OrvelDesign/TextMagnification.h"
 #include "OrvelDesign/TokensSpace.h"
-#include "OrvelPlatform/Base/File.h"
-#include "OrvelPlatform/Base/ResourceBundle.h"
 #include "OrvelPlatform/Views/Primitives.h"
 #include "OrvelPlatform/Views/RecordingCanvas.h"
 #include "OrvelWidgetsUI/Drawn/OrvelBreatheWidgetView.h"
@@ -86,35 +81,16 @@ Environment wordsEnvironment(const std::optional<Locale>& locale)
     return Environment().with<WordsLocaleKey>(words).with<LayoutDirectionKey>(direction);
 }
 
-Renderer designRenderer()
-{
-    static const char here = 0; // in this program
-    return { resourceBundle("OrvelDesign_OrvelDesign", &here), FontScope::ownProcess };
-}
-
-Exit save(const std::string& path, std::string_view bytes)
-{
-    if (path.empty())
-        return isatty(STDOUT_FILENO) != 0 ? fail("-o FILE names where the picture goes", Exit::wrongCall)
-                                          : print(bytes);
-    const auto written = replaceFile(path, bytes);
-    return written ? Exit::done : fail(printable(written.error().text()));
-}
-
 Exit draw(
-    Renderer& renderer, const SizedView& view, double scale, const Environment& environment, const std::string& path)
+    Renderer& renderer, const SizedView& view, double scale, const Environment& environment, const PictureFile& file)
 {
     const double magnification = textMagnification(environment);
-    if (path.ends_with(".svg")) {
+    if (file.format == PictureFormat::svg) {
         const Magnified whole { view, magnification };
-        const auto document = renderer.svg(whole, whole.measure({}, environment).size, environment);
-        return document ? save(path, *document) : fail(document.error().text());
+        return file.write(renderer.svg(whole, whole.measure({}, environment).size, environment));
     }
     const auto picture = renderer.draw(view.view, { view.size, scale * magnification }, environment);
-    if (!picture)
-        return fail(picture.error().text());
-    const auto png = picture->png(picture->layers.front());
-    return png ? save(path, *png) : fail(png.error().text());
+    return file.write(picture ? picture->png(picture->layers.front()) : std::unexpected(picture.error()));
 }
 
 }

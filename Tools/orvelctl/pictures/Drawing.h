@@ -3,13 +3,12 @@
 #include <functional>
 #include <optional>
 
-#include "OrvelDesign/EnvironmentValues.h"
 #include "OrvelPlatform/Drawing/Renderer.h"
-#include "OrvelWidgetsUI/Drawn/ControlStandIn.h"
 #include "OrvelWidgetsUI/WidgetContent.h"
 #include "OrvelWidgetsUI/WidgetLook.h"
 #include "OrvelWidgetsUI/WidgetSize.h"
 #include "Tools/orvelctl/calls/Command.h"
+#include "Tools/orvelctl/pictures/PictureFile.h"
 
 namespace orvelctl {
 
@@ -40,14 +39,8 @@ orvel::View outlined(orvel::View content);
 /// The environment of words in a locale: its capitals, and the direction of the words that there are in it.
 orvel::Environment wordsEnvironment(const std::optional<orvel::Locale>& locale);
 
-/// A renderer with the design system's typefaces and symbols.
-orvel::Renderer designRenderer();
-
-/// Writes a file, or standard output where the path is empty and nobody looks at it in a terminal.
-Exit save(const std::string& path, std::string_view bytes);
-
-/// Draws with as many pixels a point and saves as PNG, or as SVG where the path ends in that.
+/// Draws with as many pixels in a point and writes the file.
 Exit draw(orvel::Renderer& renderer, const SizedView& view, double scale, const orvel::Environment& environment,
-    const std::string& path);
+    const PictureFile& file);
 
 }

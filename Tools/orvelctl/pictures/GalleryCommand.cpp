@@ -2,7 +2,8 @@
 #include <memory>
 
 #include "OrvelCopy/Lookup/Lookup.h"
-#include "OrvelPlatform/Views/TextSystem.h"
+#include "OrvelDesign/DesignBundle.h"
+#include "OrvelDesign/EnvironmentValues.h"
 #include "OrvelWidgetsUI/Drawn/ControlStandIn.h"
 #include "OrvelWidgetsUI/Drawn/WordsLocale.h"
 #include "OrvelWidgetsUI/WidgetFixtures.h"
@@ -184,11 +185,10 @@ private:
 Exit drawGallery(const Call& call)
 {
     return Copy::inLanguage(call.locale, [&] {
-        auto renderer = designRenderer();
+        Renderer renderer(designBundle(), FontScope::ownProcess);
         GalleryPage page(call.folder, renderer);
         Sections(call, page).all();
-        const auto finished = page.finish();
-        return finished ? Exit::done : fail(printable(finished.error().text()));
+        return page.finish();
     });
 }
 

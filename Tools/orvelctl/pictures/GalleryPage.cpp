@@ -4,7 +4,6 @@
 #include <fmt/format.h>
 
 #include "OrvelDesign/TextMagnification.h"
-#include "OrvelPlatform/Base/File.h"
 
 namespace orvelctl {
 
@@ -80,6 +79,8 @@ Picture::Layer composed(const Picture& picture, Tint tint)
 GalleryPage::GalleryPage(std::filesystem::path folder, Renderer& renderer)
     : m_folder(std::move(folder)), m_renderer(renderer)
 {
+    std::error_code ignored; // that there is no folder shows when the first picture is written
+    std::filesystem::create_directories(m_folder, ignored);
 }
 
 void GalleryPage::endRow()
@@ -119,14 +120,9 @@ std::expected<std::string, Fault> GalleryPage::png(const SizedView& view, const 
 void GalleryPage::add(
     const std::string& name, std::string_view caption, const SizedView& view, const Environment& environment, Tint tint)
 {
-    if (m_fault)
+    if (m_exit != Exit::done)
         return;
-    const auto bytes = png(view, environment, tint);
-    const auto written = bytes ? replaceFile(m_folder / (name + ".png"), *bytes) : std::unexpected(bytes.error());
-    if (!written) {
-        m_fault = written.error();
-        return;
-    }
+    m_exit = PictureFile { m_folder / (name + ".png") }.write(png(view, environment, tint));
     const double magnification = textMagnification(environment);
     m_body += fmt::format("<figure{}><img src=\"{}.png\" width=\"{:.0f}\" height=\"{:.0f}\" alt=\"{}\">"
                           "<figcaption>{}</figcaption></figure>\n",
@@ -134,12 +130,12 @@ void GalleryPage::add(
         view.size.height * magnification, escaped(caption), escaped(caption));
 }
 
-std::expected<void, Fault> GalleryPage::finish()
+Exit GalleryPage::finish()
 {
     endRow();
-    if (m_fault)
-        return std::unexpected(*m_fault);
-    return replaceFile(m_folder / "index.html", std::string(head) + m_body + "</html>\n");
+    if (m_exit != Exit::done)
+        return m_exit;
+    return PictureFile { m_folder / "index.html" }.write(std::string(head) + m_body + "</html>\n");
 }
 
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <filesystem>
-#include <optional>
 #include <string>
 
 #include "OrvelPlatform/Base/Fault.h"
@@ -31,8 +30,8 @@ public:
     void add(const std::string& name, std::string_view caption, const SizedView& view,
         const orvel::Environment& environment, Tint tint = Tint::none);
 
-    /// Writes the page; the first fault, if anything went wrong on the way.
-    std::expected<void, orvel::Fault> finish();
+    /// Writes the page. What went wrong on the way has been told; nothing was drawn after it.
+    Exit finish();
 
 private:
     std::expected<std::string, orvel::Fault> png(
@@ -43,7 +42,7 @@ private:
     orvel::Renderer& m_renderer;
     std::string m_body;
     bool m_isInRow = false;
-    std::optional<orvel::Fault> m_fault;
+    Exit m_exit = Exit::done;
 };
 
 }

@@ -15,7 +15,7 @@ PictureFormat formatOf(const std::string& path, PictureFormats formats)
         return PictureFormat::png;
     if (formats == PictureFormats::pngAndSvg && path.ends_with(".svg"))
         return PictureFormat::svg;
-    throw CLI::ValidationError("-o",
+    throw CLI::ValidationError("The picture's file",
         fmt::format(
             "\"{}\" does not end in {}", printable(path), formats == PictureFormats::png ? ".png" : ".png or .svg"));
 }
@@ -34,11 +34,11 @@ Exit PictureFile::write(const std::expected<std::string, orvel::Fault>& bytes) c
     return stream ? Exit::done : fail(fmt::format("{}: cannot be written: {}", printable(path), std::strerror(errno)));
 }
 
-void addPictureFileOption(CLI::App* command, PictureFile& file, PictureFormats formats)
+void addPictureFileOption(CLI::App* command, PictureFile& file, PictureFormats formats, const std::string& name)
 {
     command
         ->add_option_function<std::string>(
-            "-o,--output",
+            name,
             [&file, formats](const std::string& path) {
                 file = { path, formatOf(path, formats) };
             },

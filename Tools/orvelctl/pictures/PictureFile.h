@@ -9,7 +9,7 @@ namespace orvelctl {
 
 enum class PictureFormat { png, svg };
 
-/// `-o FILE`, required: where a picture goes, "-" for standard output. Checks that the name ends as one of the formats
+/// A required option: where a picture goes, "-" for standard output. Checks that the name ends as one of the formats
 /// that the command can make; "-" takes the first of them.
 struct PictureFile {
     std::string path;
@@ -20,6 +20,7 @@ struct PictureFile {
 };
 
 enum class PictureFormats { png, pngAndSvg };
-void addPictureFileOption(CLI::App* command, PictureFile& file, PictureFormats formats);
+void addPictureFileOption(
+    CLI::App* command, PictureFile& file, PictureFormats formats, const std::string& name = "-o,--output");
 
 }
