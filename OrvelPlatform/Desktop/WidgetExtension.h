@@ -12,6 +12,7 @@
 
 #include "OrvelPlatform/Base/Date.h"
 #include "OrvelPlatform/Base/RawValue.h"
+#include "OrvelPlatform/Base/Task.h"
 #include "OrvelPlatform/Desktop/HostEnvironment.h"
 
 /// What a widget extension answers, in plain values: the runner serves it on the bus, and a host gets the same values
