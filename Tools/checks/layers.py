@@ -25,6 +25,10 @@ BELOW = {
         "OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelShared", "OrvelCopy", "OrvelDesign", "OrvelDesign/Drawn",
         "OrvelWidgetsUI",
     ],
+    "OrvelWidgetsUI/Door": [
+        "OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Drawing", "OrvelCopy", "OrvelCopy/Lookup",
+        "OrvelDesign", "OrvelWidgetsUI", "OrvelWidgetsUI/Drawn",
+    ],
     "OrvelWidgets": [
         "OrvelPlatform/Base", "OrvelPlatform/Desktop", "OrvelShared", "OrvelCopy", "OrvelCopy/Lookup", "OrvelDesign",
         "OrvelWidgetsUI",
