@@ -1,0 +1,60 @@
+#pragma once
+
+#include <expected>
+#include <functional>
+#include <memory>
+#include <string_view>
+
+#include "OrvelPlatform/Base/Fault.h"
+#include "OrvelPlatform/Desktop/AnswerWriting.h"
+#include "OrvelPlatform/Desktop/BusConnection.h"
+
+struct _GDBusMethodInvocation;
+
+namespace orvel {
+
+/// A call from another process, whose arguments have the types that the contract says. It is answered once; one that is
+/// forgotten is answered with an error.
+class MethodCall {
+public:
+    explicit MethodCall(_GDBusMethodInvocation* invocation); // taken over
+
+    std::string_view sender() const;
+    std::string_view method() const;
+
+    /// An argument, by its place.
+    VariantHandle argument(std::size_t index) const;
+
+    void answer(Answer<Reply> reply);
+    void answer(const Answer<void>& done);
+
+private:
+    struct Release {
+        void operator()(_GDBusMethodInvocation* invocation) const;
+    };
+    void refuse(const RequestFault& fault);
+
+    std::unique_ptr<_GDBusMethodInvocation, Release> m_invocation;
+};
+
+/// An interface of the contract, served at a path as long as this lives. Calls arrive on the connection's loop. The
+/// connection outlives it.
+class ServedObject {
+public:
+    using Handler = std::function<void(MethodCall)>;
+
+    [[nodiscard]] static std::expected<ServedObject, Fault> serve(
+        const BusConnection& connection, const char* path, const char* interface, Handler handler);
+
+    ServedObject(ServedObject&& other) noexcept;
+    ServedObject& operator=(ServedObject&&) = delete;
+    ~ServedObject();
+
+private:
+    ServedObject(_GDBusConnection* connection, unsigned identifier);
+
+    ConnectionHandle m_connection;
+    unsigned m_identifier; // 0: none
+};
+
+}
