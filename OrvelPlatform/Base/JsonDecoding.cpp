@@ -1,6 +1,7 @@
 #include "OrvelPlatform/Base/JsonDecoding.h"
 
 #include <fmt/format.h>
+#include <utility>
 
 namespace orvel {
 
@@ -19,6 +20,15 @@ bool JsonDecoder::read(JsonValue json, std::int64_t& value)
     if (!found)
         return failWrongType("a whole 64-bit number", json);
     value = *found;
+    return true;
+}
+
+bool JsonDecoder::read(JsonValue json, std::int32_t& value)
+{
+    const auto found = json.integer();
+    if (!found || !std::in_range<std::int32_t>(*found))
+        return failWrongType("a whole 32-bit number", json);
+    value = static_cast<std::int32_t>(*found);
     return true;
 }
 

@@ -30,6 +30,7 @@ public:
 
     bool read(JsonValue json, bool& value);
     bool read(JsonValue json, std::int64_t& value);
+    bool read(JsonValue json, std::int32_t& value);
     bool read(JsonValue json, std::string& value);
     bool read(JsonValue json, Date& value);
     bool read(JsonValue json, UUID& value);
@@ -109,6 +110,16 @@ private:
         if (!json || json->isNull())
             return true;
         return read(*json, (record.*field.member).emplace()) || isWithinMember(field.key);
+    }
+
+    template <typename Record, typename Owner, typename Value>
+    bool readField(JsonObjectReader& members, const JsonDefaulted<Owner, Value>& field, Record& record)
+    {
+        const auto json = members.find(field.key);
+        if (json && !json->isNull())
+            return read(*json, record.*field.member) || isWithinMember(field.key);
+        record.*field.member = {};
+        return true;
     }
 
     template <typename Record, typename Owner, typename Value>

@@ -40,6 +40,7 @@ public:
 
     bool write(bool value);
     bool write(std::int64_t value);
+    bool write(std::int32_t value) { return write(std::int64_t { value }); }
     bool write(double value);
     bool write(std::string_view value);
     bool write(const std::string& value) { return write(std::string_view(value)); }
@@ -93,6 +94,12 @@ public:
 private:
     template <typename Record, typename Owner, typename Value>
     bool writeField(const Record& record, const JsonField<Owner, Value>& field)
+    {
+        return writeMember(field.key, record.*field.member);
+    }
+
+    template <typename Record, typename Owner, typename Value>
+    bool writeField(const Record& record, const JsonDefaulted<Owner, Value>& field)
     {
         return writeMember(field.key, record.*field.member);
     }

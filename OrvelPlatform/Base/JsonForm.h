@@ -26,6 +26,13 @@ struct JsonField {
     Value Record::*member;
 };
 
+/// A field that a file may lack: missing or null, it has its type's empty value. It is always written.
+template <typename Record, typename Value>
+struct JsonDefaulted {
+    std::string_view key;
+    Value Record::*member;
+};
+
 /// A value that a record derives: written for tools when present, never read.
 template <typename Record, typename Value>
 struct JsonDerived {
