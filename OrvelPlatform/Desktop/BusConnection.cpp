@@ -70,8 +70,8 @@ BusConnection::~BusConnection()
         return;
     if (m_closedHandler != 0)
         g_signal_handler_disconnect(m_connection.get(), m_closedHandler);
-    if (m_isOurs && !isClosed())
-        g_dbus_connection_close_sync(m_connection.get(), nullptr, nullptr);
+    if (m_isOurs)
+        close();
 }
 
 void BusConnection::whenClosed(std::function<void()> what)
@@ -118,6 +118,14 @@ void BusConnection::settle() const
 {
     VariantHandle(g_dbus_connection_call_sync(m_connection.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus",
         "org.freedesktop.DBus", "GetId", nullptr, nullptr, G_DBUS_CALL_FLAGS_NONE, deadlineOfTheBus, nullptr, nullptr));
+}
+
+void BusConnection::close() const
+{
+    if (isClosed())
+        return;
+    flush();
+    g_dbus_connection_close_sync(m_connection.get(), nullptr, nullptr);
 }
 
 std::expected<unsigned, Fault> BusConnection::askTheBus(const char* method, _GVariant* arguments) const

@@ -39,6 +39,9 @@ public:
     void flush() const;
     void settle() const;
 
+    /// Closes it now, after what was sent is on its way. Whoever still waits for an answer is told that we left.
+    void close() const;
+
 private:
     BusConnection(const EventLoop& loop, ConnectionHandle connection, bool isOurs);
 

@@ -140,7 +140,7 @@ std::expected<void, Fault> ExtensionRunner::begin()
 }
 
 /// The name goes first: the bus starts another process for whoever asks from then on, and what was sent to this one is
-/// here. Leaving at once would lose it.
+/// here to be answered. Leaving at once would lose it.
 void ExtensionRunner::leave()
 {
     m_preparation.reset();
@@ -151,7 +151,8 @@ void ExtensionRunner::leave()
     while (!isOver || m_intents->isPerforming())
         m_loop.turn(true);
     while (m_loop.turn(false)) { }
-    m_connection.flush();
+    m_connection
+        .close(); // before the objects go: a call that comes too late is to be lost, and asked again, not refused
 }
 
 void ExtensionRunner::receive(MethodCall call)

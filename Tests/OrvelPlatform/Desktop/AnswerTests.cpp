@@ -77,7 +77,7 @@ TEST(AReply, isRefusedWhereItBreaksTheContract)
              "(@a(xu) [], [@ay []], int64 5)", // no entry
              "([(int64 1, uint32 1)], [b'm'], int64 5)", // no such moment
              "([(int64 2, uint32 0), (1, 0)], [b'm'], int64 5)", // dates go back
-             "([(9223372036854775807, uint32 0)], [b'm'], int64 5)", // beyond the year 9999
+             "([(int64 9223372036854775807, uint32 0)], [b'm'], int64 5)", // beyond the year 9999
              "([(int64 1, uint32 0)], [b'm'], int64 -9223372036854775808)",
          })
         EXPECT_FALSE(answered<ExtensionTimeline>(reply)) << reply;

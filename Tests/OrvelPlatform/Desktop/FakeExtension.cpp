@@ -122,7 +122,7 @@ public:
         m_performed += intent + platform.activationToken.value_or("") + ";";
         if (const auto minutes = parameters.find("minutes"); minutes != parameters.end()) {
             auto waiting = m_clock.sleep(std::chrono::milliseconds { std::get<std::int64_t>(minutes->second) });
-            co_await std::move(waiting);
+            co_await waiting;
         }
         co_return Answer<void>();
     }

@@ -57,8 +57,7 @@ protected:
     {
         if (isOwned(BusName::extension))
             ::kill(process(), SIGKILL);
-        EXPECT_TRUE(turnUntil(loop,
-            [&] { return !isOwned(BusName::extension) || (turnFor(loop, std::chrono::milliseconds { 2 }), false); }));
+        EXPECT_TRUE(lookUntil(loop, [&] { return !isOwned(BusName::extension); }));
         GVariantBuilder settings;
         g_variant_builder_init(&settings, G_VARIANT_TYPE("a{ss}"));
         g_variant_builder_add(&settings, "{ss}", "FAKE_IDLE", idle);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <chrono>
-#include <coroutine>
 #include <exception>
 #include <functional>
 #include <optional>
@@ -14,22 +13,11 @@
 
 namespace orvel::tests {
 
-struct Unattended {
-    struct promise_type {
-        Unattended get_return_object() { return {}; }
-        std::suspend_never initial_suspend() noexcept { return {}; }
-        std::suspend_never final_suspend() noexcept { return {}; }
-        void return_void() { }
-        void unhandled_exception() { std::terminate(); }
-    };
-};
-
 /// Runs a task beside others; `done` gets its answer.
 template <typename T>
-Unattended begin(Task<T> task, std::function<void(T)> done)
+void begin(Task<T> task, std::function<void(T)> done)
 {
-    auto answer = co_await std::move(task);
-    done(std::move(answer));
+    start(std::move(task), [done = std::move(done)](TaskOutcome<T> outcome) { done(*std::move(outcome)); }).detach();
 }
 
 /// Turns the loop until something holds; false when it does not come to hold within `limit`.
@@ -47,6 +35,14 @@ inline void turnFor(EventLoop& loop, std::chrono::milliseconds time)
 {
     turnUntil(
         loop, [] { return false; }, time);
+}
+
+/// The same for what nothing on the loop tells of.
+inline bool lookUntil(EventLoop& loop, const std::function<bool()>& holds)
+{
+    for (int look = 0; look < 5000 && !holds(); ++look)
+        turnFor(loop, std::chrono::milliseconds { 2 });
+    return holds();
 }
 
 /// What a task gives, waited for.
