@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 #include <gio/gio.h>
 #include <string_view>
+#include <utility>
 
 namespace orvel {
 
@@ -55,10 +56,34 @@ BusConnection::BusConnection(const EventLoop& loop, ConnectionHandle connection,
 {
 }
 
+BusConnection::BusConnection(BusConnection&& other) noexcept
+    : m_context(std::move(other.m_context))
+    , m_connection(std::move(other.m_connection))
+    , m_isOurs(other.m_isOurs)
+    , m_closedHandler(std::exchange(other.m_closedHandler, 0))
+{
+}
+
 BusConnection::~BusConnection()
 {
-    if (m_connection && m_isOurs && !isClosed())
-        g_dbus_connection_close_sync(m_connection.get(), nullptr, nullptr);
+    if (!m_connection)
+        return;
+    if (m_closedHandler != 0)
+        g_signal_handler_disconnect(m_connection.get(), m_closedHandler);
+    if (m_isOurs)
+        close();
+}
+
+void BusConnection::whenClosed(std::function<void()> what)
+{
+    using Callback = std::function<void()>;
+    const auto call = +[](_GDBusConnection*, gboolean, _GError*, void* data) { (*static_cast<Callback*>(data))(); };
+    const auto release =
+        +[](void* data, GClosure*) { std::unique_ptr<Callback>(static_cast<Callback*>(data)).reset(); };
+    if (m_closedHandler != 0)
+        g_signal_handler_disconnect(m_connection.get(), m_closedHandler);
+    m_closedHandler = g_signal_connect_data(m_connection.get(), "closed", G_CALLBACK(call),
+        std::make_unique<Callback>(std::move(what)).release(), release, {});
 }
 
 bool BusConnection::isClosed() const
@@ -93,6 +118,14 @@ void BusConnection::settle() const
 {
     VariantHandle(g_dbus_connection_call_sync(m_connection.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus",
         "org.freedesktop.DBus", "GetId", nullptr, nullptr, G_DBUS_CALL_FLAGS_NONE, deadlineOfTheBus, nullptr, nullptr));
+}
+
+void BusConnection::close() const
+{
+    if (isClosed())
+        return;
+    flush();
+    g_dbus_connection_close_sync(m_connection.get(), nullptr, nullptr);
 }
 
 std::expected<unsigned, Fault> BusConnection::askTheBus(const char* method, _GVariant* arguments) const

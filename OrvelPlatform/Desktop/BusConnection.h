@@ -18,13 +18,16 @@ public:
     /// The one connection that GLib shares within the process, which an application of GLib's has.
     [[nodiscard]] static std::expected<BusConnection, Fault> shared(const EventLoop& loop);
 
-    BusConnection(BusConnection&&) = default;
+    BusConnection(BusConnection&& other) noexcept;
     BusConnection& operator=(BusConnection&&) = delete;
     ~BusConnection();
 
     _GDBusConnection* get() const { return m_connection.get(); }
     _GMainContext* context() const { return m_context.get(); }
     bool isClosed() const;
+
+    /// What is to be done on the loop when the bus goes away.
+    void whenClosed(std::function<void()> what);
 
     /// Takes a name that nobody else has; a name that is taken is a fault.
     [[nodiscard]] std::expected<void, Fault> takeName(const char* name) const;
@@ -36,6 +39,9 @@ public:
     void flush() const;
     void settle() const;
 
+    /// Closes it now, after what was sent is on its way. Whoever still waits for an answer is told that we left.
+    void close() const;
+
 private:
     BusConnection(const EventLoop& loop, ConnectionHandle connection, bool isOurs);
 
@@ -45,6 +51,7 @@ private:
     ContextHandle m_context;
     ConnectionHandle m_connection;
     bool m_isOurs;
+    unsigned long m_closedHandler = 0; // 0: none
 };
 
 }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <glib-unix.h>
-#include <limits>
 #include <utility>
 
 namespace orvel {
@@ -11,25 +10,34 @@ namespace {
 
 using Callback = std::function<void()>;
 
-/// A source as GLib has it, which owns its callback and runs it once or as long as it lives.
-SourceHandle attached(GSource* source, _GMainContext* context, Callback what, bool isRepeated)
+gboolean runOnce(void* data)
 {
-    const auto once = +[](void* data) -> gboolean {
-        const auto callback = std::move(*static_cast<Callback*>(data)); // it may destroy this source
-        callback();
-        return G_SOURCE_REMOVE;
-    };
-    const auto always = +[](void* data) -> gboolean {
-        const auto callback = *static_cast<Callback*>(data);
-        callback();
-        return G_SOURCE_CONTINUE;
-    };
+    (*static_cast<Callback*>(data))();
+    return G_SOURCE_REMOVE;
+}
+
+gboolean runAlways(void* data)
+{
+    (*static_cast<Callback*>(data))();
+    return G_SOURCE_CONTINUE;
+}
+
+gboolean runWhenReadable(int, GIOCondition, void* data)
+{
+    return runAlways(data);
+}
+
+/// A new source, which owns its callback from now on. GLib keeps that while it runs, whatever becomes of the source.
+SourceHandle attached(GSource* source, _GMainContext* context, GSourceFunc run, Callback what)
+{
     const auto release = +[](void* data) { std::unique_ptr<Callback>(static_cast<Callback*>(data)).reset(); };
-    g_source_set_callback(
-        source, isRepeated ? always : once, std::make_unique<Callback>(std::move(what)).release(), release);
+    g_source_set_callback(source, run, std::make_unique<Callback>(std::move(what)).release(), release);
     g_source_attach(source, context);
     return SourceHandle(source);
 }
+
+/// Longer waits do not end while anybody looks, and sums of times do not overflow.
+constexpr std::chrono::microseconds longestWait = std::chrono::years { 1000 };
 
 }
 
@@ -53,29 +61,37 @@ void EventLoop::quit()
     g_main_context_wakeup(m_context.get());
 }
 
-void EventLoop::turn(bool mayWait)
+bool EventLoop::turn(bool mayWait)
 {
     const LoopScope scope(m_context.get());
-    g_main_context_iteration(m_context.get(), mayWait ? TRUE : FALSE);
+    return g_main_context_iteration(m_context.get(), mayWait ? TRUE : FALSE) != FALSE;
 }
 
-SourceHandle EventLoop::after(std::chrono::milliseconds delay, Callback what) const
+SourceHandle EventLoop::after(std::chrono::microseconds delay, Callback what) const
 {
-    using Limits = std::numeric_limits<int>;
-    const auto bounded = std::clamp<std::chrono::milliseconds::rep>(delay.count(), 0, Limits::max());
-    return attached(g_timeout_source_new(static_cast<guint>(bounded)), m_context.get(), std::move(what), false);
+    using std::chrono::microseconds;
+    auto* source = g_timeout_source_new(0);
+    g_source_set_ready_time(
+        source, g_get_monotonic_time() + std::clamp(delay, microseconds { 0 }, longestWait).count());
+    return attached(source, m_context.get(), &runOnce, std::move(what));
 }
 
 SourceHandle EventLoop::whenIdle(Callback what) const
 {
     auto* source = g_idle_source_new();
     g_source_set_priority(source, G_PRIORITY_LOW);
-    return attached(source, m_context.get(), std::move(what), false);
+    return attached(source, m_context.get(), &runOnce, std::move(what));
+}
+
+SourceHandle EventLoop::whenReadable(int descriptor, Callback what) const
+{
+    auto* source = g_unix_fd_source_new(descriptor, G_IO_IN);
+    return attached(source, m_context.get(), G_SOURCE_FUNC(&runWhenReadable), std::move(what));
 }
 
 SourceHandle EventLoop::onSignal(int signal, Callback what) const
 {
-    return attached(g_unix_signal_source_new(signal), m_context.get(), std::move(what), true);
+    return attached(g_unix_signal_source_new(signal), m_context.get(), &runAlways, std::move(what));
 }
 
 LoopScope::LoopScope(_GMainContext* context) : m_context(context)

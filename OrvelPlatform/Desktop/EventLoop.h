@@ -21,13 +21,14 @@ public:
     void run();
     void quit();
 
-    /// Serves what is due, after waiting for it where it may.
-    void turn(bool mayWait);
+    /// Serves what is due, after waiting for it where it may. False when there was nothing.
+    bool turn(bool mayWait);
 
-    /// What is to be run later on the loop, unless the handle is destroyed before. `after` runs once; `whenIdle` once,
-    /// when nothing else is due; `onSignal` at each arrival of a signal.
-    [[nodiscard]] SourceHandle after(std::chrono::milliseconds delay, std::function<void()> what) const;
+    /// What is to be run later on the loop, unless the handle is destroyed before; it may be destroyed by what it runs.
+    /// `after` runs once; `whenIdle` once, when nothing else is due; `whenReadable` and `onSignal` each time.
+    [[nodiscard]] SourceHandle after(std::chrono::microseconds delay, std::function<void()> what) const;
     [[nodiscard]] SourceHandle whenIdle(std::function<void()> what) const;
+    [[nodiscard]] SourceHandle whenReadable(int descriptor, std::function<void()> what) const;
     [[nodiscard]] SourceHandle onSignal(int signal, std::function<void()> what) const;
 
     _GMainContext* context() const { return m_context.get(); }

@@ -82,22 +82,26 @@ std::expected<ServedObject, Fault> ServedObject::serve(
     const BusConnection& connection, const char* path, const char* interface, Handler handler)
 {
     const LoopScope scope(connection.context());
-    const auto release = +[](void* data) { std::unique_ptr<Handler>(static_cast<Handler*>(data)).reset(); };
+    auto kept = std::make_unique<Handler>(std::move(handler));
     ErrorHandle error;
-    const auto identifier = g_dbus_connection_register_object(connection.get(), path, contractInterface(interface),
-        &table, std::make_unique<Handler>(std::move(handler)).release(), release, ErrorOut { error });
+    const auto identifier = g_dbus_connection_register_object(
+        connection.get(), path, contractInterface(interface), &table, kept.get(), nullptr, ErrorOut { error });
     if (identifier == 0)
         return std::unexpected(Fault { .where = path, .why = error->message, .cause = {} });
-    return ServedObject(connection.get(), identifier);
+    return ServedObject(connection.get(), std::move(kept), identifier);
 }
 
-ServedObject::ServedObject(_GDBusConnection* connection, unsigned identifier)
-    : m_connection(static_cast<_GDBusConnection*>(g_object_ref(connection))), m_identifier(identifier)
+ServedObject::ServedObject(_GDBusConnection* connection, std::unique_ptr<Handler> handler, unsigned identifier)
+    : m_connection(static_cast<_GDBusConnection*>(g_object_ref(connection)))
+    , m_handler(std::move(handler))
+    , m_identifier(identifier)
 {
 }
 
 ServedObject::ServedObject(ServedObject&& other) noexcept
-    : m_connection(std::move(other.m_connection)), m_identifier(std::exchange(other.m_identifier, 0))
+    : m_connection(std::move(other.m_connection))
+    , m_handler(std::move(other.m_handler))
+    , m_identifier(std::exchange(other.m_identifier, 0))
 {
 }
 

@@ -51,9 +51,10 @@ public:
     ~ServedObject();
 
 private:
-    ServedObject(_GDBusConnection* connection, unsigned identifier);
+    ServedObject(_GDBusConnection* connection, std::unique_ptr<Handler> handler, unsigned identifier);
 
     ConnectionHandle m_connection;
+    std::unique_ptr<Handler> m_handler; // GDBus knows where it lies
     unsigned m_identifier; // 0: none
 };
 

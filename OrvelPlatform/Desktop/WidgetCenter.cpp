@@ -31,13 +31,13 @@ void receive(
 {
     if (!g_variant_is_of_type(arguments, G_VARIANT_TYPE("(as)")))
         return;
-    const auto handlers = *static_cast<std::shared_ptr<Handlers>*>(data); // the listener may go while it is called
+    const auto handlers = *static_cast<Handlers*>(data); // the listener may go while it is called
     const auto isTimelines = std::string_view(signal) == "ReloadTimelines";
     const auto isControls = std::string_view(signal) == "ReloadControls";
-    if (isTimelines && handlers->reloadTimelines)
-        handlers->reloadTimelines(kindsOf(arguments));
-    if (isControls && handlers->reloadControls)
-        handlers->reloadControls(kindsOf(arguments));
+    if (isTimelines && handlers.reloadTimelines)
+        handlers.reloadTimelines(kindsOf(arguments));
+    if (isControls && handlers.reloadControls)
+        handlers.reloadControls(kindsOf(arguments));
 }
 
 }
@@ -84,15 +84,11 @@ std::expected<WidgetCenterListener, Fault> WidgetCenterListener::listen(const Ev
 }
 
 WidgetCenterListener::WidgetCenterListener(BusConnection connection, Handlers handlers)
-    : m_connection(std::move(connection)), m_handlers(std::make_shared<Handlers>(std::move(handlers)))
+    : m_connection(std::move(connection)), m_handlers(std::make_unique<Handlers>(std::move(handlers)))
 {
     const LoopScope scope(m_connection.context());
-    const auto release = +[](void* data) {
-        std::unique_ptr<std::shared_ptr<Handlers>>(static_cast<std::shared_ptr<Handlers>*>(data)).reset();
-    };
     m_subscription = g_dbus_connection_signal_subscribe(m_connection.get(), nullptr, BusInterface::widgetCenter,
-        nullptr, BusPath::widgetCenter, nullptr, G_DBUS_SIGNAL_FLAGS_NONE, &receive,
-        std::make_unique<std::shared_ptr<Handlers>>(m_handlers).release(), release);
+        nullptr, BusPath::widgetCenter, nullptr, G_DBUS_SIGNAL_FLAGS_NONE, &receive, m_handlers.get(), nullptr);
     m_connection.settle(); // what is said from now on is heard
 }
 

@@ -2,6 +2,7 @@
 
 #include <expected>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -47,7 +48,7 @@ private:
     WidgetCenterListener(BusConnection connection, Handlers handlers);
 
     BusConnection m_connection;
-    std::shared_ptr<Handlers> m_handlers;
+    std::unique_ptr<Handlers> m_handlers; // GDBus knows where they lie
     unsigned m_subscription;
 };
 

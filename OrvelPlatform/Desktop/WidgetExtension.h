@@ -12,6 +12,7 @@
 
 #include "OrvelPlatform/Base/Date.h"
 #include "OrvelPlatform/Base/RawValue.h"
+#include "OrvelPlatform/Base/Task.h"
 #include "OrvelPlatform/Desktop/HostEnvironment.h"
 
 /// What a widget extension answers, in plain values: the runner serves it on the bus, and a host gets the same values
@@ -50,7 +51,7 @@ using IntentParameters = std::map<std::string, IntentValue, std::less<>>;
 
 /// What the desktop adds when it runs an intent.
 struct IntentPlatform {
-    std::optional<std::string> activationToken; // lets the application come to the front
+    std::optional<std::string> activationToken {}; // lets the application come to the front
 
     bool operator==(const IntentPlatform&) const = default;
 };
@@ -185,16 +186,16 @@ struct ControlValue {
     std::string title;
     std::string value;
     std::string symbol; // the product's name for it
-    std::optional<bool> isOn; // of a toggle; absent for a button
-    std::optional<Color> tint; // of a toggle that is on, as the environment's appearance has it
-    std::optional<std::string> barText; // where there is room for a few letters beside the symbol
-    std::optional<std::string> spokenState; // for assistive technology, with the title
-    std::optional<std::string> icon; // bytes of an SVG or PNG file that shows the symbol
-    std::optional<Date> start; // of what runs
-    std::optional<Date> end;
-    std::optional<Date> changes; // when the value will be another one: a host asks again then
-    std::optional<std::string> glyph; // the state that a menu bar's glyph shows
-    std::optional<double> glyphValue; // how far that state is, from 0 to 1
+    std::optional<bool> isOn {}; // of a toggle; absent for a button
+    std::optional<Color> tint {}; // of a toggle that is on, as the environment's appearance has it
+    std::optional<std::string> barText {}; // where there is room for a few letters beside the symbol
+    std::optional<std::string> spokenState {}; // for assistive technology, with the title
+    std::optional<std::string> icon {}; // bytes of an SVG or PNG file that shows the symbol
+    std::optional<Date> start {}; // of what runs
+    std::optional<Date> end {};
+    std::optional<Date> changes {}; // when the value will be another one: a host asks again then
+    std::optional<std::string> glyph {}; // the state that a menu bar's glyph shows
+    std::optional<double> glyphValue {}; // how far that state is, from 0 to 1
 
     bool operator==(const ControlValue&) const = default;
 };
