@@ -220,6 +220,13 @@ class OrvelctlTests(unittest.TestCase):
         self.assertEqual(sorted([*shown, "index.html"]), sorted(os.listdir(folder)))
         self.assert_fails(call("gallery", "--out", "/proc/none"), 1, "/proc/none")
 
+    def test_a_persons_widgets_are_drawn_in_both_appearances(self):
+        folder = os.path.join(self.folder.name, "mine")
+        moment = ["--now", "2026-03-04T09:48:30Z", *BERLIN]
+        self.assertEqual(call("widgets", "--or-sample", "--out", folder, *moment).returncode, 0)
+        self.assertEqual(len([name for name in os.listdir(folder) if name.endswith(".png")]), 8)
+        self.assert_fails(call("widgets", "--out", folder), 1, "widgets.json")
+
     def test_a_wrong_call_is_one_line_and_code_2(self):
         for arguments, text in [
             ([], "a command is missing"),

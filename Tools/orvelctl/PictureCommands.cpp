@@ -12,10 +12,11 @@ namespace orvelctl {
 
 namespace {
 
-constexpr std::array<std::pair<const char*, const char*>, 5> pictureCommands { {
+constexpr std::array<std::pair<const char*, const char*>, 6> pictureCommands { {
     { "draw", "A widget as a picture" },
     { "day", "A contact sheet: every distinct picture of a day" },
     { "gallery", "Every look, size and state, as pictures and one page" },
+    { "widgets", "Your widgets at this moment, as pictures and one page" },
     { "glyph", "The menu bar's glyph" },
     { "orb", "The orb in a pose of a breath" },
 } };

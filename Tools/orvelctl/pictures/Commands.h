@@ -8,6 +8,7 @@ namespace orvelctl {
 void addDrawCommand(CLI::App& app, Action& action);
 void addDayCommand(CLI::App& app, Action& action);
 void addGalleryCommand(CLI::App& app, Action& action);
+void addWidgetsCommand(CLI::App& app, Action& action);
 void addGlyphCommand(CLI::App& app, Action& action);
 void addOrbCommand(CLI::App& app, Action& action);
 

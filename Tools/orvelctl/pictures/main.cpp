@@ -8,6 +8,7 @@ int main(int argc, char** argv)
         addDrawCommand(app, action);
         addDayCommand(app, action);
         addGalleryCommand(app, action);
+        addWidgetsCommand(app, action);
         addGlyphCommand(app, action);
         addOrbCommand(app, action);
     });
