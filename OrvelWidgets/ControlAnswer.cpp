@@ -1,10 +1,9 @@
 #include "OrvelWidgets/ControlAnswer.h"
 
-#include <algorithm>
 #include <string_view>
-#include <vector>
 
 #include "OrvelPlatform/Base/Match.h"
+#include "OrvelShared/TimelinePlan.h"
 #include "OrvelShared/WidgetMoments.h"
 #include "OrvelWidgets/ControlIcon.h"
 #include "OrvelWidgets/MenuBarGlyph.h"
@@ -52,12 +51,7 @@ ControlValue::Color color(RGBA rgba)
 
 ControlValue labelled(const ControlLabel& label)
 {
-    ControlValue value {};
-    value.title = label.title;
-    value.value = label.value;
-    value.symbol = label.symbol;
-    value.icon = symbolIcon(label.symbol);
-    return value;
+    return { .title = label.title, .value = label.value, .symbol = label.symbol, .icon = symbolIcon(label.symbol) };
 }
 
 /// All that people see of the toggle and the glyph; the share of a Focus that is left follows its minutes.
@@ -84,20 +78,46 @@ std::optional<Date> endOfUnlock(const WidgetMoment& moment)
         static_cast<const State::Any&>(moment.state));
 }
 
-/// The first instant after `moment` at which the toggle or the glyph looks different. Beyond the dates that a timeline
-/// may have it is the last of them, when a host may ask again.
-std::optional<Date> nextChange(WidgetSnapshot snapshot, const WidgetMoment& moment, const Calendar& calendar)
+/// When the countdown of the Focus that runs shows a minute less.
+std::optional<Date> nextMinute(const WidgetMoment& moment)
 {
-    snapshot.horizon = latestDate; // a Focus goes on counting down although nothing more is planned
-    auto dates = snapshot.timelineDates(moment.date, calendar, OrvelProvider::countdownSpan, OrvelProvider::limit);
-    if (const auto end = endOfUnlock(moment); end && *end > moment.date)
-        dates.insert(std::ranges::upper_bound(dates, *end), *end);
+    const auto focus = moment.focus();
+    if (!focus)
+        return std::nullopt;
+    const auto past = (*focus->end - moment.date) % countdownStep;
+    return moment.date + (past == past.zero() ? countdownStep : past);
+}
+
+/// The first instant after a moment at which any rule could make it look different.
+std::optional<Date> nextOccasion(const WidgetSnapshot& snapshot, const WidgetMoment& moment)
+{
+    std::optional<Date> next;
+    const auto consider = [&](std::optional<Date> date) {
+        if (date && *date > moment.date && (!next || *date < *next))
+            next = date;
+    };
+    for (const auto& phase : snapshot.phases)
+        consider(phase.start);
+    consider(nextMinute(moment));
+    consider(endOfUnlock(moment));
+    return next;
+}
+
+/// The first instant after `moment` at which the toggle or the glyph looks different. After as many occasions as a
+/// timeline has dates it is the last of them, when a host may ask again. While blocking is paused nothing changes.
+std::optional<Date> nextChange(const WidgetSnapshot& snapshot, WidgetMoment moment, const Calendar& calendar)
+{
+    if (!moment.isRunning)
+        return std::nullopt;
+    const auto present = moment;
     WidgetMoments moments(snapshot, calendar);
-    for (const auto date : dates) {
-        if (!looksTheSame(moments.moment(date), moment))
-            return date;
+    for (auto occasions = OrvelProvider::limit; occasions > 0 && looksTheSame(moment, present); --occasions) {
+        const auto next = nextOccasion(snapshot, moment);
+        if (!next)
+            return std::nullopt;
+        moment = moments.moment(*next);
     }
-    return std::ssize(dates) < OrvelProvider::limit ? std::nullopt : std::optional(dates.back());
+    return moment.date;
 }
 
 }

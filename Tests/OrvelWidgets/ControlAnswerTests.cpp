@@ -68,7 +68,8 @@ TEST(TheFocusControl, saysWhatRunsWhatTheGlyphShowsAndWhenThatChanges)
     const State none(State::NothingScheduled {});
     const Case cases[] = {
         { "a Focus", { { before, focus } }, true, "11 min left", "focus", 620.0 / 1220, 20s },
-        { "a Focus while paused", { { before, focus } }, false, "Off · 50 min", "idle", {}, {} },
+        { "a Focus while paused", { { before, focus }, { present + 3s, none } }, false, "Off · 50 min", "idle", {},
+            {} },
         { "a Focus in its last minute", { { before, State::Focus { running(before, present + 5s) } } }, true,
             "1 min left", "focus", 5.0 / 605, 5s },
         { "a Focus that is over", { { before, State::Focus { running(before, present) } } }, true, "Off · 50 min",
@@ -87,6 +88,10 @@ TEST(TheFocusControl, saysWhatRunsWhatTheGlyphShowsAndWhenThatChanges)
             "Off · 50 min", "unlock", {}, 77s },
         { "let through no longer", { { before, State::Block { unlocked(running(before, {}), present) } } }, true,
             "Off · 50 min", "active", 1, {} },
+        { "let through anew",
+            { { before, State::Block { unlocked(running(before, {}), present + 9s) } },
+                { present + 5s, State::Block { unlocked(running(before, {}), present + 70s) } } },
+            true, "Off · 50 min", "unlock", {}, 70s },
         { "a Focus filter", { { before, State::FocusFilter { running(before, {}) } } }, true, "Off · 50 min", "active",
             1, {} },
         { "no phases", {}, true, "Off · 50 min", "idle", {}, {} },
@@ -127,7 +132,7 @@ TEST(TheFocusControl, asksForAnotherLookWhereATimelineWouldEnd)
         phases.push_back({ before + index * 1s, State(State::Block { running(before, std::nullopt) }) });
     for (auto index = 0; index < 300; ++index)
         phases.push_back({ present + (index + 1) * 1s, State(State::Block { running(before, std::nullopt) }) });
-    EXPECT_EQ(focusControlValue(stale(phases), present, utc, {}).changes, present + 239s);
+    EXPECT_EQ(focusControlValue(stale(phases), present, utc, {}).changes, present + 240s);
 }
 
 TEST(Controls, withoutASnapshotShowWhatTheGalleryShows)
