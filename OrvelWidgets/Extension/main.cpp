@@ -1,0 +1,36 @@
+#include "OrvelPlatform/Desktop/DesktopClock.h"
+#include "OrvelPlatform/Desktop/ExtensionRunner.h"
+#include "OrvelPlatform/Desktop/LinkOpener.h"
+#include "OrvelWidgets/OrvelExtension.h"
+
+namespace {
+
+using namespace orvel;
+
+/// The extension has no front to come to: where the application does not run, links bring it there.
+class NoForeground final : public Foreground {
+public:
+    Task<std::expected<void, Fault>> request() override
+    {
+        co_return std::unexpected(Fault { {}, "the extension has no window" });
+    }
+};
+
+}
+
+int main()
+{
+    EventLoop loop;
+    DesktopClock clock(loop);
+    LinkOpener workspace(loop);
+    NoForeground foreground;
+    OrvelExtension extension({
+        .snapshot = [] { return WidgetSnapshot::file().read(); },
+        .draw = drawWidget,
+        .prepareForPictures = [] { (void)prepareDrawing(); }, // a picture says what is missing
+        .clock = clock,
+        .workspace = workspace,
+        .foreground = foreground,
+    });
+    return runExtension(loop, extension);
+}
