@@ -13,8 +13,8 @@ void addSnapshotCommand(CLI::App& app, Action& action);
 void addTokensCommand(CLI::App& app, Action& action);
 void addMetricsCommand(CLI::App& app, Action& action);
 
-/// The commands that draw, which belong to a program of their own beside this one: a timeline need not wait until all
-/// that draws has been loaded. `arguments` are the whole call's.
-void addPictureCommands(CLI::App& app, Action& action, char** arguments);
+/// The commands that draw and those that talk on the bus, which belong to programs of their own beside this one: a
+/// timeline need not wait until all that has been loaded. `arguments` are the whole call's.
+void addHandedOverCommands(CLI::App& app, Action& action, char** arguments);
 
 }

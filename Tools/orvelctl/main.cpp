@@ -12,6 +12,6 @@ int main(int argc, char** argv)
         addSnapshotCommand(app, action);
         addTokensCommand(app, action);
         addMetricsCommand(app, action);
-        addPictureCommands(app, action, argv);
+        addHandedOverCommands(app, action, argv);
     });
 }
