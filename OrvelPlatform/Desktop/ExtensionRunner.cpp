@@ -151,8 +151,8 @@ void ExtensionRunner::leave()
     while (!isOver || m_intents->isPerforming())
         m_loop.turn(true);
     while (m_loop.turn(false)) { }
-    m_connection
-        .close(); // before the objects go: a call that comes too late is to be lost, and asked again, not refused
+    // Before the objects go: a call that comes too late is to be lost and asked again, not refused.
+    m_connection.close();
 }
 
 void ExtensionRunner::receive(MethodCall call)

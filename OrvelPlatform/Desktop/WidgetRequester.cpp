@@ -96,20 +96,20 @@ Task<Answer<void>> WidgetRequester::perform(std::string intent, IntentParameters
         "(s@a{sv}@a{sv})", boundedText(intent).c_str(), parametersValue(parameters), platformValue(platform)));
     const auto end = Clock::now() + m_deadlines.performed;
     auto asking = ownerOfApplication();
-    const auto application = co_await std::move(asking);
+    const auto application = co_await asking;
     if (application) {
         BusCall::Target target {
             .name = *application, .path = BusPath::application, .interface = BusInterface::intents, .mayStart = false
         };
         auto calling =
             call(std::move(target), "Perform", VariantHandle(g_variant_ref(arguments.get())), "()", until(end));
-        const auto result = co_await std::move(calling);
+        const auto result = co_await calling;
         if (!hasFailed(result, CallFailure::Kind::notServed))
             co_return outcome(result);
     }
     auto target = extension(BusInterface::intents);
     auto calling = call(std::move(target), "Perform", std::move(arguments), "()", until(end));
-    const auto result = co_await std::move(calling);
+    const auto result = co_await calling;
     co_return outcome(result);
 }
 
@@ -119,10 +119,10 @@ Task<Answer<T>> WidgetRequester::ask(const char* method, VariantHandle arguments
     const auto end = Clock::now() + m_deadlines.answer;
     auto target = extension(BusInterface::widgetExtension);
     auto calling = call(target, method, VariantHandle(g_variant_ref(arguments.get())), replyType, until(end));
-    auto result = co_await std::move(calling);
+    auto result = co_await calling;
     if (hasFailed(result, CallFailure::Kind::left)) {
         auto again = call(target, method, std::move(arguments), replyType, until(end));
-        result = co_await std::move(again);
+        result = co_await again;
     }
     if (!result)
         co_return std::unexpected(result.error().fault);
@@ -147,7 +147,7 @@ Task<std::optional<std::string>> WidgetRequester::ownerOfApplication()
         .mayStart = false };
     auto question = sunk(g_variant_new("(s)", BusName::application));
     auto calling = call(bus, "GetNameOwner", std::move(question), "(s)", m_deadlines.answer);
-    const auto result = co_await std::move(calling);
+    const auto result = co_await calling;
     if (!result)
         co_return std::nullopt;
     const VariantHandle owner(g_variant_get_child_value(result->values.get(), 0));

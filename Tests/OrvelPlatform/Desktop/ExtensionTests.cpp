@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <random>
 
 #include "OnTheBus.h"
@@ -233,6 +234,13 @@ TEST_F(OnTheBus, preparesForPicturesAfterTheFirstTimeline)
     EXPECT_TRUE(lookUntil(loop, [&] { return state().isOn == true; }));
 }
 
+/// Also when nobody has taken note of its end yet.
+bool hasEnded(pid_t process)
+{
+    std::ifstream commandLine("/proc/" + std::to_string(process) + "/cmdline");
+    return !commandLine || commandLine.peek() == std::ifstream::traits_type::eof();
+}
+
 TEST_F(OnTheBus, answersWhatWaitsBeforeItEnds)
 {
     const auto before = process();
@@ -245,7 +253,14 @@ TEST_F(OnTheBus, answersWhatWaitsBeforeItEnds)
     EXPECT_NE(process(), before); // meanwhile another one is asked
     ASSERT_TRUE(turnUntil(loop, [&] { return answer.has_value(); }));
     EXPECT_TRUE(*answer);
-    EXPECT_TRUE(lookUntil(loop, [&] { return ::kill(before, 0) != 0; }));
+    EXPECT_TRUE(lookUntil(loop, [&] { return hasEnded(before); }));
+}
+
+TEST_F(OnTheBus, aSecondProcessAndOneWithoutABusSayWhyAndLeave)
+{
+    const auto program = "/proc/" + std::to_string(process()) + "/exe 2>&1 >&- | grep -q ";
+    EXPECT_EQ(std::system((program + "'another process has this name'").c_str()), 0);
+    EXPECT_EQ(std::system(("DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere " + program + "'session bus'").c_str()), 0);
 }
 
 TEST_F(OnTheBus, noCallIsLostWhenTheProcessLeaves)
