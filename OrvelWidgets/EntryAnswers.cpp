@@ -1,6 +1,5 @@
 #include "OrvelWidgets/EntryAnswers.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "OrvelWidgets/OpaqueMoment.h"
@@ -13,6 +12,17 @@ namespace {
 std::unexpected<RequestFault> withoutForm(const Fault& fault)
 {
     return refusal(RequestFault::Kind::cannotDraw, "A moment cannot be kept: " + fault.text());
+}
+
+/// Where a moment stands among others, sought from the back: equal ones mostly follow one another. Their number where
+/// it does not.
+std::size_t lastPlace(const std::vector<WidgetMoment>& moments, const WidgetMoment& moment)
+{
+    for (auto index = moments.size(); index-- > 0;) {
+        if (moments[index] == moment)
+            return index;
+    }
+    return moments.size();
 }
 
 }
@@ -32,10 +42,8 @@ Answer<ExtensionTimeline> extensionTimeline(OrvelTimeline timeline)
     std::vector<WidgetMoment> moments;
     for (auto& [date, moment] : timeline.entries) {
         moment.date = {};
-        // Equal moments mostly follow one another.
-        const auto equal = std::find(moments.rbegin(), moments.rend(), moment);
-        const auto index = equal == moments.rend() ? moments.size() : moments.rend() - equal - 1;
-        if (equal == moments.rend()) {
+        const auto index = lastPlace(moments, moment);
+        if (index == moments.size()) {
             auto opaque = opaqueMoment(moment);
             if (!opaque)
                 return withoutForm(opaque.error());

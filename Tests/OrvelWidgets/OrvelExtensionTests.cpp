@@ -174,6 +174,29 @@ TEST(Pictures, haveALinkElementsAndActions)
         faultOf(world.extension.render(Kind::status, { entry.date, "moment" }, inUtc)), RequestFault::Kind::badEntry);
 }
 
+TEST(Pictures, drawnInEarnestHaveActionsThatCanBePerformed)
+{
+    ExtensionWorld world(ExtensionWorld::sample(Scene::next));
+    OrvelExtension extension({ .snapshot = [&] { return world.snapshot; },
+        .draw = drawWidget,
+        .prepareForPictures = {},
+        .clock = world.intents.clock,
+        .workspace = world.intents.workspace,
+        .foreground = world.intents.foreground });
+    auto environment = inUtc;
+    environment.family = "systemMedium";
+    environment.language = "de";
+    const auto entry = extension.snapshot(Kind::status, environment).value();
+    const auto picture = extension.render(Kind::status, entry, environment).value();
+    ASSERT_EQ(picture.actions.size(), 1U);
+    const auto& action = picture.actions.front();
+    EXPECT_THAT(action.label, HasSubstr("Jetzt atmen"));
+    const auto work = start(extension.perform(action.intent, action.parameters, {}), [](auto) {});
+    const auto& [style, minutes] = world.snapshot->breathe;
+    const auto link = OrvelLink(OrvelLink::Breathe { .style = style, .minutes = minutes }).url();
+    EXPECT_THAT(world.intents.journal, ElementsAre("open " + link.text));
+}
+
 TEST(Pictures, followTheHostsEnvironment)
 {
     auto environment = inUtc;
