@@ -212,13 +212,14 @@ class OrvelctlTests(unittest.TestCase):
 
     def test_a_gallery_shows_every_picture_that_it_makes(self):
         folder = os.path.join(self.folder.name, "new", "gallery")
-        result = call("gallery", "--out", folder, *BERLIN, "--locale", "en-GB")
+        parts = ["--only", "controls", "--only", "surfaces"]
+        result = call("gallery", "--out", folder, *parts, *BERLIN, "--locale", "en-GB")
         self.assertEqual((result.returncode, result.stdout, result.stderr), (0, b"", b""))
         with open(os.path.join(folder, "index.html"), encoding="utf-8") as file:
             shown = re.findall(r'src="([^"]+)"', file.read())
         self.assertEqual(len(shown), len(set(shown)))
         self.assertEqual(sorted([*shown, "index.html"]), sorted(os.listdir(folder)))
-        self.assert_fails(call("gallery", "--out", "/proc/none"), 1, "/proc/none")
+        self.assert_fails(call("gallery", "--out", "/proc/none", *parts), 1, "/proc/none")
 
     def test_a_persons_widgets_are_drawn_in_both_appearances(self):
         folder = os.path.join(self.folder.name, "mine")
@@ -269,6 +270,7 @@ class OrvelctlTests(unittest.TestCase):
             (["draw"], "output"),
             (["day", "--out", "a.gif"], "a.gif"),
             (["gallery"], "--out"),
+            (["gallery", "--out", "x", "--only", "kitchen"], "kitchen"),
             (["link", "make", "moon"], "moon"),
             (["link", "make", "breathe", "--minutes", "few"], "few"),
             (["link", "make", "focus", "--minutes", "3"], "breathe only"),

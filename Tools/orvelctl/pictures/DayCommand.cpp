@@ -171,10 +171,8 @@ void addDayCommand(CLI::App& app, Action& action)
 {
     auto* command = app.add_subcommand("day", "A contact sheet: every distinct picture of a day, its times below");
     const auto call = std::make_shared<Call>();
-    addCaseOption<WidgetSize>(command, "--size", "SIZE", "small, medium or large; without it medium",
-        [call](WidgetSize size) { call->size = size; });
-    addCaseOption<WidgetLook>(command, "--look", "LOOK", "dusk, dawn, mono or clear; without it dusk",
-        [call](WidgetLook look) { call->look = look; });
+    addSizeAndLook(
+        command, [call](WidgetSize size) { call->size = size; }, [call](WidgetLook look) { call->look = look; });
     call->request.addOptions(command, "--at");
     command->remove_option(command->get_option("--json"));
     addPictureFileOption(command, call->file, PictureFormats::pngAndSvg, "--out");

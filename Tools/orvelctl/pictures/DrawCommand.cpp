@@ -56,10 +56,8 @@ void addDrawCommand(CLI::App& app, Action& action)
     command->add_option("--widget", call->widget, "status or breathe")
         ->type_name("WIDGET")
         ->check(CLI::IsMember({ "status", "breathe" }));
-    addCaseOption<WidgetSize>(command, "--size", "SIZE", "small, medium or large; without it medium",
-        [call](WidgetSize size) { call->size = size; });
-    addCaseOption<WidgetLook>(command, "--look", "LOOK", "dusk, dawn, mono or clear; without it dusk",
-        [call](WidgetLook look) { call->look = look; });
+    addSizeAndLook(
+        command, [call](WidgetSize size) { call->size = size; }, [call](WidgetLook look) { call->look = look; });
     call->request.addOptions(command, "--at");
     command->remove_option(command->get_option("--json"));
     command->add_option("--scale", call->scale, "Pixels in a point, 1 to 4")->type_name("SCALE")->check(within(1, 4));

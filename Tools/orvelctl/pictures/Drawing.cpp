@@ -60,6 +60,15 @@ struct Outlined {
 
 }
 
+void addSizeAndLook(
+    CLI::App* command, std::function<void(orvel::WidgetSize)> setSize, std::function<void(orvel::WidgetLook)> setLook)
+{
+    addCaseOption<WidgetSize>(
+        command, "--size", "SIZE", "small, medium or large; without it medium", std::move(setSize));
+    addCaseOption<WidgetLook>(
+        command, "--look", "LOOK", "dusk, dawn, mono or clear; without it dusk", std::move(setLook));
+}
+
 SizedView widgetPicture(const WidgetContent& content, WidgetSize size, WidgetLook look)
 {
     const bool isBreathe = content.state == WidgetContent::State::breathe;

@@ -24,6 +24,10 @@ void addCaseOption(CLI::App* command, const std::string& name, std::string_view 
         ->check(CLI::IsMember(std::vector<std::string>(cases.begin(), cases.end())));
 }
 
+/// `--size` and `--look` of a widget; without them they are left as they are.
+void addSizeAndLook(
+    CLI::App* command, std::function<void(orvel::WidgetSize)> setSize, std::function<void(orvel::WidgetLook)> setLook);
+
 /// A view with the size that it is drawn in, in points.
 struct SizedView {
     orvel::View view;

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <fmt/format.h>
 #include <memory>
 
@@ -10,6 +11,7 @@
 #include "Tools/orvelctl/calls/Command.h"
 #include "Tools/orvelctl/pictures/Commands.h"
 #include "Tools/orvelctl/pictures/Drawing.h"
+#include "Tools/orvelctl/pictures/GalleryDesign.h"
 #include "Tools/orvelctl/pictures/GalleryPage.h"
 #include "Tools/orvelctl/pictures/GalleryWords.h"
 
@@ -24,6 +26,7 @@ struct Call {
     std::optional<TimeZone> zone;
     std::optional<Locale> locale;
     std::string folder;
+    std::vector<std::string> only;
 };
 
 Tint tint(WidgetLook look)
@@ -51,12 +54,20 @@ public:
     {
     }
 
-    void all()
+    struct Part {
+        std::string name;
+        void (*add)(Sections&);
+    };
+    /// In the gallery's order.
+    static const std::vector<Part>& parts();
+
+    /// Draws the parts that are asked for; all of them when none is named.
+    void draw(const std::vector<std::string>& only)
     {
-        widgets();
-        words();
-        options();
-        controls();
+        for (const auto& [name, add] : parts()) {
+            if (only.empty() || std::ranges::find(only, name) != only.end())
+                add(*this);
+        }
     }
 
 private:
@@ -182,12 +193,28 @@ private:
     Environment m_words;
 };
 
+const std::vector<Sections::Part>& Sections::parts()
+{
+    static const std::vector<Part> all {
+        { "widgets", [](Sections& sections) { sections.widgets(); } },
+        { "words", [](Sections& sections) { sections.words(); } },
+        { "options", [](Sections& sections) { sections.options(); } },
+        { "controls", [](Sections& sections) { sections.controls(); } },
+        { "palette", [](Sections& sections) { addPalette(sections.m_page, {}); } },
+        { "type", [](Sections& sections) { addType(sections.m_page, {}); } },
+        { "orb", [](Sections& sections) { addOrb(sections.m_page, {}); } },
+        { "glyph", [](Sections& sections) { addGlyph(sections.m_page, {}); } },
+        { "surfaces", [](Sections& sections) { addSurfaces(sections.m_page, {}); } },
+    };
+    return all;
+}
+
 Exit drawGallery(const Call& call)
 {
     return Copy::inLanguage(call.locale, [&] {
         Renderer renderer(designBundle(), FontScope::ownProcess);
         GalleryPage page(call.folder, renderer);
-        Sections(call, page).all();
+        Sections(call, page).draw(call.only);
         return page.finish();
     });
 }
@@ -203,6 +230,12 @@ void addGalleryCommand(CLI::App& app, Action& action)
     command->add_option("--out", call->folder, "The folder of the pictures and index.html")
         ->type_name("FOLDER")
         ->required();
+    std::vector<std::string> names;
+    for (const auto& part : Sections::parts())
+        names.push_back(part.name);
+    command->add_option("--only", call->only, "This part alone, such as widgets or palette; may be repeated")
+        ->type_name("PART")
+        ->check(CLI::IsMember(names));
     runs(command, action, [call] { return drawGallery(*call); });
 }
 
