@@ -12,6 +12,7 @@ void addLinkCommand(CLI::App& app, Action& action);
 void addSnapshotCommand(CLI::App& app, Action& action);
 void addTokensCommand(CLI::App& app, Action& action);
 void addMetricsCommand(CLI::App& app, Action& action);
+void addCopyCommand(CLI::App& app, Action& action);
 
 /// The commands that draw, which belong to a program of their own beside this one: a timeline need not wait until all
 /// that draws has been loaded. `arguments` are the whole call's.
