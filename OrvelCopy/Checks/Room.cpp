@@ -11,7 +11,7 @@ namespace orvel::Copy {
 
 namespace {
 
-constexpr std::array<std::string_view, 5> tightNamespaces { "Widgets", "Controls", "Menus", "Popover", "Format" };
+constexpr std::array<std::string_view, 4> tightNamespaces { "Widgets", "Controls", "Popover", "Format" };
 constexpr std::size_t longestLabel = 40; // columns; what is longer is broken into lines
 
 bool isSpoken(std::string_view member) { return member.contains("poken") || member.contains("entence"); }
@@ -26,6 +26,8 @@ std::size_t most(std::size_t length, Room room)
     switch (room) {
     case Room::tight:
         return length + std::max<std::size_t>(8, length * 40 / 100);
+    case Room::menu:
+        return length + std::max<std::size_t>(16, length);
     case Room::label:
         return length + std::max<std::size_t>(10, length * 60 / 100);
     case Room::sentence:
@@ -44,6 +46,8 @@ Room roomOf(const ListedText& text)
         return Room::spoken;
     if (isSentence(text.key))
         return Room::sentence;
+    if (text.namespace_ == "Menus")
+        return Room::menu;
     const auto isTight = std::ranges::find(tightNamespaces, text.namespace_) != tightNamespaces.end();
     return isTight ? Room::tight : Room::label;
 }

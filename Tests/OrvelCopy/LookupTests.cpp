@@ -54,7 +54,7 @@ TEST(Lookup, ofConstantsKeepsTheFirstAndOfFunctionsDoesNot)
         EXPECT_EQ(until("9:00"), "bis 9:00");
     }
     {
-        const LocaleVariables variables(Values { { "LANG", "fr_FR.UTF-8" } });
+        const LocaleVariables variables(Values { { "LANG", "it_IT.UTF-8" } });
         EXPECT_EQ(next(), "Als Nächstes");
         EXPECT_EQ(until("9:00"), "until 9:00");
         EXPECT_EQ(paused(), "Paused");

@@ -123,7 +123,8 @@ TEST(TableCheck, givesATextTheRoomOfItsPlace)
     const Place places[] = {
         { "on a widget", text("Next", false, "next", "Widgets"), 12 },
         { "on a button", text("Next"), 14 },
-        { "a longer menu item", text(std::string(30, 'x'), false, "item", "Menus"), 42 },
+        { "a menu item", text(std::string(30, 'x'), false, "item", "Menus"), 60 },
+        { "a longer label on a widget", text(std::string(30, 'x'), false, "label", "Widgets"), 42 },
         { "a longer button", text(std::string(30, 'x')), 48 },
         { "a sentence", text(std::string(49, 'x') + '.'), 90 },
         { "a value takes no room", text("until %@", false, "until", "Widgets"), 14 },
