@@ -10,6 +10,9 @@
 /// the English text stands. All of it may be called from any thread.
 namespace orvel::Copy {
 
+/// Where the product is found on the web, as people read it. It is put into the texts, so that no translation has it.
+inline constexpr std::string_view webAddress = "orvel.app";
+
 /// "Focus"
 std::string_view focusName();
 

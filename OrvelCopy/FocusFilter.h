@@ -7,6 +7,7 @@
 /// brings about. It is Gentle or Firm, never Ultra Hard.
 namespace orvel::Copy::FocusFilter {
 
+// The settings.
 /// "Your Focus", the name of what runs
 std::string_view name();
 std::string_view title();
@@ -16,6 +17,8 @@ std::string_view mode();
 std::string_view gentle();
 std::string_view firm();
 std::string_view nothingQuiet();
+
+// What it brings about.
 std::string_view untilFocusEnds();
 std::string_view firmContext();
 std::string_view restingDetail();

@@ -3,6 +3,7 @@
 #include <array>
 #include <concepts>
 #include <cstdint>
+#include <source_location>
 #include <string_view>
 
 #include "OrvelCopy/Lookup/TextPattern.h"
@@ -14,13 +15,16 @@ struct Key {
     std::string_view text;
     std::string_view place; // the function it stands in, as the compiler spells it
     bool isCounted; // has exactly one %lld, so that a table may inflect it
+    std::source_location where {}; // for a listing in the order of the sources
 };
 
 /// KEY("…") and COUNTED("…") write a key where it is used: a callable of a new type at each place, which the compiler
 /// checks against the values that are inserted. COUNTED is for texts with exactly one whole number: the template gives
 /// them plural forms. Elsewhere a text that is counted in code has two keys, KEY("1 app") and COUNTED("%lld apps").
-#define KEY(text) [] { return ::orvel::Copy::Key { text, __PRETTY_FUNCTION__, false }; }
-#define COUNTED(text) [] { return ::orvel::Copy::Key { text, __PRETTY_FUNCTION__, true }; }
+#define KEY(text) ORVEL_KEY(text, false)
+#define COUNTED(text) ORVEL_KEY(text, true)
+#define ORVEL_KEY(text, isCounted)                                                                                     \
+    [] { return ::orvel::Copy::Key { text, __PRETTY_FUNCTION__, isCounted, ::std::source_location::current() }; }
 
 template <typename T>
 concept WholeNumber = std::integral<T> && !std::same_as<T, bool> && sizeof(T) <= sizeof(std::int64_t);

@@ -1,6 +1,8 @@
 #include "OrvelCopy/Lookup/Listing.h"
 
 #include <algorithm>
+#include <source_location>
+#include <tuple>
 
 #include "OrvelCopy/Lookup/KeyList.h"
 #include "OrvelCopy/Lookup/StringTables.h"
@@ -42,15 +44,47 @@ ListedText listedText(const Detail::ListedKey& listed)
         .isCounted = listed.key.isCounted };
 }
 
+/// The areas of the product, as it names them; what is not among them comes last.
+std::size_t rank(std::string_view name)
+{
+    constexpr std::string_view names[] = { "Copy", "Blocks", "Lists", "ReadyMade", "Blocking", "Guard", "Sheets",
+        "BreatheWindow", "BreatheView", "Pause", "Today", "Insights", "Notifications", "Toasts", "Announce", "FirstRun",
+        "Settings", "Menus", "KeyboardMap", "Popover", "Shortcuts", "TabPage", "Window", "FocusFilter", "Widgets",
+        "Controls", "Format" };
+    return static_cast<std::size_t>(std::ranges::find(names, name) - std::begin(names));
+}
+
+struct PlacedText {
+    std::size_t rank;
+    std::source_location where;
+    ListedText text;
+
+    auto order() const
+    {
+        return std::tuple(rank, std::string_view(text.namespace_), std::string_view(where.file_name()), where.line(),
+            where.column(), std::string_view(text.key));
+    }
+};
+
 }
 
 std::vector<ListedText> listedTexts()
 {
+    std::vector<PlacedText> placed;
+    for (const auto* listed = Detail::firstListedKey(); listed; listed = listed->next) {
+        auto text = listedText(*listed);
+        placed.push_back({ rank(text.namespace_), listed->key.where, std::move(text) });
+    }
+    std::ranges::sort(placed, {}, &PlacedText::order);
     std::vector<ListedText> texts;
-    for (const auto* listed = Detail::firstListedKey(); listed; listed = listed->next)
-        texts.push_back(listedText(*listed));
-    std::ranges::sort(texts);
+    for (auto& text : placed)
+        texts.push_back(std::move(text.text));
     return texts;
+}
+
+const std::filesystem::path& tableFile(const Locale& locale)
+{
+    return StringTables::ofCatalogue().language({ &locale, 1 }).file();
 }
 
 std::vector<std::string> translation(std::string_view key, const Locale& locale)

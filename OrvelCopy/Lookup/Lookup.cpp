@@ -1,6 +1,7 @@
 #include "OrvelCopy/Lookup/Lookup.h"
 
 #include <atomic>
+#include <map>
 #include <memory>
 #include <mutex>
 
@@ -79,6 +80,26 @@ std::string_view constantText(const Key& key, const Language& language)
 std::string_view constantText(const Key& key)
 {
     return constantText(key, languageOfProcess());
+}
+
+std::string_view constantText(const Key& key, const Insertion& value, const Language& language)
+{
+    struct Kept {
+        std::mutex mutex;
+        std::map<std::pair<const Key*, const Language*>, std::string> texts;
+    };
+    static auto& kept = *std::make_unique<Kept>().release();
+
+    const std::scoped_lock lock(kept.mutex);
+    const auto [text, isNew] = kept.texts.try_emplace({ &key, &language });
+    if (isNew)
+        text->second = composedText(key, { &value, 1 }, language);
+    return text->second;
+}
+
+std::string_view constantText(const Key& key, const Insertion& value)
+{
+    return constantText(key, value, languageOfProcess());
 }
 
 std::string composedText(const Key& key, std::span<const Insertion> values)

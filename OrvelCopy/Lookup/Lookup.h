@@ -41,6 +41,11 @@ const Language* requestedLanguage();
 std::string_view constantText(const Key& key, const Language& language);
 std::string_view constantText(const Key& key);
 
+/// The same of a key with a value in it that never changes. Made once for each language and place where a key is
+/// written, which the key's address tells apart, and kept.
+std::string_view constantText(const Key& key, const Insertion& value, const Language& language);
+std::string_view constantText(const Key& key, const Insertion& value);
+
 /// The key's text in a language with the values put in; in English where the language has none that takes them.
 std::string composedText(const Key& key, std::span<const Insertion> values, const Language& language);
 std::string composedText(const Key& key, std::span<const Insertion> values);
@@ -96,6 +101,18 @@ std::string_view constant(Written)
     if (const auto* requested = Detail::requestedLanguage())
         return Detail::constantText(key, *requested);
     static const auto kept = Detail::constantText(key);
+    return kept;
+}
+
+/// A text constant with a value in it that is the same for every call, such as the product's address on the web.
+template <typename Written, Insertable Value>
+std::string_view constant(Written, const Value& value)
+{
+    static_assert(isSound<Value>(Written {}()));
+    const auto& key = Detail::listed<Written, Detail::Role::constant>.key;
+    if (const auto* requested = Detail::requestedLanguage())
+        return Detail::constantText(key, Detail::insertion(value), *requested);
+    static const auto kept = Detail::constantText(key, Detail::insertion(value));
     return kept;
 }
 

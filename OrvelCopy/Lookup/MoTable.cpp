@@ -1,5 +1,6 @@
 #include "OrvelCopy/Lookup/MoTable.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstring>
 
@@ -100,13 +101,22 @@ std::optional<MoTable::Entry> MoTable::find(std::string_view key) const
 
 std::optional<PluralRule> MoTable::statedRule() const
 {
-    constexpr std::string_view field = "Plural-Forms:";
+    const auto statement = headerField("Plural-Forms");
+    return statement ? PluralRule::parse(*statement) : PluralRule::singularForOne();
+}
+
+std::optional<std::string_view> MoTable::headerField(std::string_view name) const
+{
     const auto header = find("");
-    const auto at = header ? header->translation.find(field) : std::string_view::npos;
-    if (at == std::string_view::npos)
-        return PluralRule::singularForOne();
-    const auto statement = header->translation.substr(at + field.size());
-    return PluralRule::parse(statement.substr(0, statement.find('\n')));
+    for (auto rest = header ? header->translation : std::string_view(); !rest.empty();) {
+        const auto line = rest.substr(0, rest.find('\n'));
+        rest.remove_prefix(std::min(line.size() + 1, rest.size()));
+        if (!line.starts_with(name) || !line.substr(name.size()).starts_with(':'))
+            continue;
+        const auto value = line.substr(name.size() + 1);
+        return value.substr(std::min(value.find_first_not_of(' '), value.size()));
+    }
+    return std::nullopt;
 }
 
 std::vector<std::string_view> MoTable::forms(std::string_view key) const

@@ -28,6 +28,12 @@ public:
     /// All forms of the text for a key; none where it is absent.
     std::vector<std::string_view> forms(std::string_view key) const;
 
+    /// The rule of the plural forms, as the table states it; absent where that is no rule.
+    const std::optional<PluralRule>& pluralRule() const { return m_rule; }
+
+    /// What the table's header says under a name such as "Language".
+    std::optional<std::string_view> headerField(std::string_view name) const;
+
 private:
     struct Entry {
         std::string_view translation;

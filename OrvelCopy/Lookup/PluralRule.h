@@ -20,6 +20,9 @@ public:
     /// Absent for what is no rule.
     static std::optional<PluralRule> parse(std::string_view statement);
 
+    /// How many forms the language has.
+    std::size_t forms() const { return m_forms; }
+
     /// The form for a count, the first is 0. Absent where the rule divides by zero or names a form that there is not.
     std::optional<std::size_t> form(std::uint64_t count) const;
 

@@ -12,15 +12,19 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t longestTable = 4 * 1024 * 1024;
+constexpr std::string_view disguisedEnglish = "en-XA";
 
-std::optional<MoTable> readTable(const fs::path& file)
-{
-    if (file.empty())
-        return std::nullopt;
-    auto bytes = readFile(file, longestTable);
-    return bytes ? MoTable::read(*std::move(bytes)) : std::nullopt;
 }
 
+std::expected<MoTable, Fault> readTable(const fs::path& file)
+{
+    auto bytes = readFile(file, longestTable);
+    if (!bytes)
+        return std::unexpected(bytes.error());
+    auto table = MoTable::read(*std::move(bytes));
+    if (!table)
+        return std::unexpected(Fault { .where = file.string(), .why = "not a table that msgfmt has compiled" });
+    return *std::move(table);
 }
 
 Language::Language(fs::path file, bool isRightToLeft) : m_file(std::move(file)), m_isRightToLeft(isRightToLeft) { }
@@ -33,7 +37,10 @@ const Language& Language::english()
 
 const std::optional<MoTable>& Language::table() const
 {
-    std::call_once(m_readOnce, [&] { m_table = readTable(m_file); });
+    std::call_once(m_readOnce, [&] {
+        if (auto read = m_file.empty() ? std::unexpected(Fault()) : readTable(m_file))
+            m_table = *std::move(read);
+    });
     return m_table;
 }
 
@@ -92,8 +99,10 @@ const Language& StringTables::language(std::span<const Locale> preferred) const
 std::vector<std::string> StringTables::languages() const
 {
     std::vector<std::string> names;
-    for (const auto& [name, language] : found())
-        names.push_back(name);
+    for (const auto& [name, language] : found()) {
+        if (name != disguisedEnglish)
+            names.push_back(name);
+    }
     return names;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <expected>
 #include <filesystem>
 #include <map>
 #include <mutex>
@@ -11,9 +12,13 @@
 
 #include "OrvelCopy/Lookup/Key.h"
 #include "OrvelCopy/Lookup/MoTable.h"
+#include "OrvelPlatform/Base/Fault.h"
 #include "OrvelPlatform/Base/Locale.h"
 
 namespace orvel::Copy {
+
+/// Reads a table's file.
+[[nodiscard]] std::expected<MoTable, Fault> readTable(const std::filesystem::path& file);
 
 /// The words of one language. Its table is read when the first word is asked for; one that cannot be read has no
 /// words. English has no table: its words are the keys.
@@ -25,6 +30,9 @@ public:
     static const Language& english();
 
     bool isRightToLeft() const { return m_isRightToLeft; }
+
+    /// Where its table lies; empty for English without a table.
+    const std::filesystem::path& file() const { return m_file; }
 
     /// The translation of a key, in the form that `count` takes if the key is counted; absent where there is none.
     /// What is returned lives as long as the language.
@@ -58,7 +66,8 @@ public:
     /// parent of it. English where none has, and for a locale that is English without a table.
     const Language& language(std::span<const Locale> preferred) const;
 
-    /// The identifiers of the languages that have a table.
+    /// The identifiers of the languages that have a table, as a person may choose from. English in disguise, made to
+    /// try what long and accented texts do, is not among them: it is there for who asks for it by its name, en-XA.
     std::vector<std::string> languages() const;
 
 private:

@@ -1,42 +1,18 @@
-#include <gtest/gtest.h>
-
 #include "OrvelCopy/Blocks.h"
 #include "OrvelCopy/Controls.h"
 #include "OrvelCopy/FocusFilter.h"
 #include "OrvelCopy/Lists.h"
-#include "OrvelCopy/Lookup/Lookup.h"
 #include "OrvelCopy/Shortcuts.h"
 #include "OrvelCopy/Widgets.h"
+#include "Tests/OrvelCopy/EnglishTexts.h"
 
 using namespace orvel;
-
-namespace {
-
-/// A text of the catalogue in English, and what it must be. The English texts are the tables' keys and the product's
-/// words: a changed character loses every translation.
-struct Case {
-    std::string text, expected;
-};
-
-void expectEach(const std::vector<Case>& cases)
-{
-    for (const auto& [text, expected] : cases)
-        EXPECT_EQ(text, expected);
-}
-
-template <typename Make>
-std::vector<Case> inEnglish(Make make)
-{
-    return Copy::inLanguage(Locale::english(), make);
-}
-
-}
 
 TEST(Catalogue, composesWidgetTexts)
 {
     using namespace Copy::Widgets;
-    expectEach(inEnglish([] {
-        return std::vector<Case> {
+    expectInEnglish([] {
+        return std::vector<EnglishText> {
             { std::string(statusDescription()),
                 "What\u2019s keeping things quiet now, today\u2019s numbers and a breath." },
             { std::string(breatheName()), "Breathe Now" },
@@ -62,23 +38,23 @@ TEST(Catalogue, composesWidgetTexts)
             { todaySentence(1, 2, 3), "Today: 1 breaths, 2 minutes breathed, stayed off 3 times." },
             { breatheSentence(5), "Orvel, Breathe now, 5 minute. Opens a breath." },
         };
-    }));
+    });
 }
 
 TEST(Catalogue, knowsTwoStylesOfBreathBesideCalm)
 {
     using Copy::Widgets::style;
-    expectEach(inEnglish([] {
-        return std::vector<Case> { { style("reset"), "Reset" }, { style("ground"), "Ground" },
+    expectInEnglish([] {
+        return std::vector<EnglishText> { { style("reset"), "Reset" }, { style("ground"), "Ground" },
             { style("calm"), "Calm" }, { style("Reset"), "Calm" }, { style("reset "), "Calm" }, { style(""), "Calm" } };
-    }));
+    });
 }
 
 TEST(Catalogue, composesControlAndFocusFilterTexts)
 {
     using namespace Copy;
-    expectEach(inEnglish([] {
-        return std::vector<Case> {
+    expectInEnglish([] {
+        return std::vector<EnglishText> {
             { Controls::focusOff(25), "Off \u00B7 25 min" },
             { Controls::focusOnSpoken(1), "on, 1 minutes left" },
             { FocusFilter::summary("Social", "Firm"), "Social \u00B7 Firm" },
@@ -89,14 +65,14 @@ TEST(Catalogue, composesControlAndFocusFilterTexts)
             { std::string(FocusFilter::quitRefused()),
                 "Your Focus is Firm while it\u2019s on. Orvel has to keep running to block." },
         };
-    }));
+    });
 }
 
 TEST(Catalogue, hasASingularForExactlyOne)
 {
     using namespace Copy;
-    expectEach(inEnglish([] {
-        return std::vector<Case> {
+    expectInEnglish([] {
+        return std::vector<EnglishText> {
             { Lists::appsOnThisMac(1), "1 app on this Mac" },
             { Lists::appsOnThisMac(0), "0 apps on this Mac" },
             { Lists::appsOnThisMac(2), "2 apps on this Mac" },
@@ -106,15 +82,15 @@ TEST(Catalogue, hasASingularForExactlyOne)
             { Blocks::blocksSummary(0, 1, true),
                 "Blocks 0 apps and 1 website. Ready-made Lists add new apps you install." },
         };
-    }));
+    });
 }
 
 TEST(Catalogue, picksTheTextOfTheCase)
 {
     using namespace Copy;
     using Shortcuts::Surface;
-    expectEach(inEnglish([] {
-        return std::vector<Case> {
+    expectInEnglish([] {
+        return std::vector<EnglishText> {
             { Blocks::running("12:00"), "Running \u00B7 until 12:00" },
             { Blocks::scheduleWithLists("a", "b", "c"), "a \u00B7 b \u00B7 c" },
             { Blocks::rowSentence("Work", "Firm", "weekdays", true), "Work, Firm, weekdays" },
@@ -134,5 +110,5 @@ TEST(Catalogue, picksTheTextOfTheCase)
                 "Work is in Ultra Hard mode until 12:00, so Control Center can\u2019t turn it off. Nothing ends it "
                 "early." },
         };
-    }));
+    });
 }

@@ -14,7 +14,8 @@ namespace {
 /// Texts without a word in them, and names, are the same in every language.
 bool hasWords(std::string_view key)
 {
-    constexpr std::string_view alike[] = { "Orvel", "%lld h", "Orvel. %@: %@, %@. %@", "Orvel. %@, %@. %@" };
+    constexpr std::string_view alike[] = { "Orvel", "%lld h", "Orvel. %@: %@, %@. %@", "Orvel. %@, %@. %@", "Widget",
+        "Websites", "Optional", "Name", "VoiceOver", "esc", "Apps", "Symbol", "%lld\u00A0min", "%lld\u00A0min · %@" };
     return std::ranges::find(alike, key) == std::end(alike) && std::ranges::any_of(key, [](char letter) {
         return letter >= 'a' && letter <= 'z' && letter != 'l' && letter != 'd';
     });

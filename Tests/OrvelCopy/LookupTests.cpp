@@ -35,6 +35,14 @@ std::string until(std::string_view time)
 {
     return localized(KEY("until %@"), time);
 }
+std::string_view untilNoon()
+{
+    return constant(KEY("until %@"), "12:00");
+}
+std::string_view untilNight()
+{
+    return constant(KEY("until %@"), "22:00");
+}
 
 }
 
@@ -46,7 +54,7 @@ TEST(Lookup, ofConstantsKeepsTheFirstAndOfFunctionsDoesNot)
         EXPECT_EQ(until("9:00"), "bis 9:00");
     }
     {
-        const LocaleVariables variables(Values { { "LANG", "fr_FR.UTF-8" } });
+        const LocaleVariables variables(Values { { "LANG", "it_IT.UTF-8" } });
         EXPECT_EQ(next(), "Als Nächstes");
         EXPECT_EQ(until("9:00"), "until 9:00");
         EXPECT_EQ(paused(), "Paused");
@@ -74,6 +82,18 @@ TEST(Lookup, inALanguageIsWhollyInItAndLeavesTheProcessAlone)
     EXPECT_EQ(until("9:00"), "until 9:00");
 }
 
+TEST(Lookup, ofConstantsWithAValueKeepsEachInEachLanguage)
+{
+    const LocaleVariables variables(Values { { "LANG", "C" } });
+    const auto inGerman = inLanguage(german, [] { return untilNoon(); });
+    EXPECT_EQ(untilNoon(), "until 12:00");
+    EXPECT_EQ(untilNight(), "until 22:00") << "the same key at another place";
+    EXPECT_EQ(inLanguage(german, [] { return untilNight(); }), "bis 22:00");
+    const LocaleVariables later(Values { { "LANG", "de" } });
+    EXPECT_EQ(untilNoon(), "until 12:00") << "kept";
+    EXPECT_EQ(inGerman, "bis 12:00") << "still there";
+}
+
 TEST(Lookup, servesManyThreads)
 {
     const LocaleVariables variables(Values { { "LANG", "de" } });
@@ -91,6 +111,7 @@ TEST(Lookup, servesManyThreads)
                 inLanguage(english ? Locale::english() : german, [&] {
                     EXPECT_EQ(now(), english ? "Now" : "Jetzt");
                     EXPECT_EQ(off(), english ? "off" : "aus");
+                    EXPECT_EQ(untilNoon(), english ? "until 12:00" : "bis 12:00");
                     EXPECT_EQ(until("9"), english ? "until 9" : "bis 9");
                 });
                 EXPECT_EQ(off(), "aus");

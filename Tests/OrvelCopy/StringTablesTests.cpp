@@ -62,7 +62,7 @@ TEST_F(Tables, areChosenByTheLocaleAndItsParents)
         { "sr_RS", "until 9:00" },
         { "pt_PT", "until 9:00" },
         { "pt_PT:de", "de 9:00" },
-        { "fr:en:de", "until 9:00" },
+        { "it:en:de", "until 9:00" },
         { "en_US:de", "until 9:00" },
         { "en_GB", "en_GB 9:00" },
         { "", "until 9:00" },

@@ -7,6 +7,7 @@ import struct
 import subprocess
 import sys
 import tempfile
+import unicodedata
 import unittest
 
 PROGRAM = sys.argv.pop(1)
@@ -228,6 +229,62 @@ class OrvelctlTests(unittest.TestCase):
         self.assertEqual(len([name for name in os.listdir(folder) if name.endswith(".png")]), 8)
         self.assert_fails(call("widgets", "--out", folder), 1, "widgets.json")
 
+    def test_the_catalogue_is_listed_by_namespace_and_member(self):
+        lines = call("copy", "list").stdout.decode().splitlines()
+        self.assertIn("  untilLeft               Until %@ · %@ left", lines)
+        self.assertLess(lines.index("Blocks"), lines.index("Lists"))
+        self.assertLess(lines.index("Lists"), lines.index("Widgets"))
+        german = call("copy", "list", "--namespace", "Widgets", "--language", "de-AT").stdout.decode()
+        self.assertNotIn("Blocks\n", german)
+        self.assertRegex(german, r"\n  pausedDetail +Open Orvel to block again\.\n +Öffne .*\n +Your %lld Blocks are saved\.\n"
+                                 r" +Dein Block ist .*\n +Deine %lld Blöcke ")
+        texts = json.loads(call("copy", "list", "--namespace", "Widgets", "--language", "de_AT", "--json").stdout)
+        self.assertEqual([text["member"] for text in texts[:3]], ["statusName", "statusDescription", "breatheName"])
+        self.assertEqual([text for text in texts if text["key"] == "Your %lld Blocks are saved."], [{
+            "namespace": "Widgets", "member": "pausedDetail", "key": "Your %lld Blocks are saved.", "isCounted": True,
+            "isTranslated": True, "text": "Deine %lld Blöcke sind gespeichert.",
+            "forms": ["Dein Block ist gespeichert.", "Deine %lld Blöcke sind gespeichert."]}])
+        without = call("copy", "list", "--language", "tlh")
+        self.assert_fails(without, 1, "tlh", "de")
+        self.assertNotIn(b"en-XA", without.stderr)
+        self.assert_fails(call("copy", "check", "--language", "en"), 1, "no table for en")
+
+    def test_every_text_has_its_disguise(self):
+        self.assertEqual(call("copy", "check", "--language", "en_XA").stdout, b"")
+        texts = json.loads(call("copy", "list", "--language", "en-XA", "--json").stdout)
+        for text in texts:
+            for form in text.get("forms", [text["text"]]):
+                bare = unicodedata.normalize("NFD", form)
+                bare = "".join(letter for letter in bare if not unicodedata.combining(letter))
+                bare = re.sub(r"[ ~]*([.…?!:·]*)\](\s*)$", r"\1\2", bare.replace("[", "", 1))
+                self.assertEqual(re.sub(r"\s*·$", "·", bare), re.sub(r"\s*·$", "·", text["key"]))
+                self.assertIn("]", form)
+        longest = max(texts, key=lambda text: len(text["key"]))
+        self.assertAlmostEqual(len(longest["text"]) / len(longest["key"]), 1.4, 1)
+        said = call("control", "focus", "--snapshot", self.file(self.sample()), "--locale", "en_XA").stdout.decode()
+        self.assertIn("[Föçûš ñöŵ", said)
+        self.assertIn("Focus now", call("control", "focus", "--or-sample", "--locale", "en_GB").stdout.decode())
+
+    def test_a_translators_table_is_checked(self):
+        path = os.path.join(self.folder.name, "nl")
+        with open(path + ".po", "w", encoding="utf-8") as file:
+            file.write('msgid ""\nmsgstr "Language: nl\\nContent-Type: text/plain; charset=UTF-8\\n"\n\n'
+                       'msgid "Focus now"\nmsgstr "Nu focus\x1b"\n\nmsgid "until %@"\nmsgstr "tot %lld"\n')
+        subprocess.run(["msgfmt", "-o", path + ".mo", path + ".po"], check=True, timeout=60)
+        result = call("copy", "check", "--table", path + ".mo")
+        self.assertEqual((result.returncode, result.stderr), (1, b""))
+        lines = result.stdout.decode().splitlines()
+        self.assertIn("nl: Widgets.until: “until %@”: “tot %lld” has %lld for value 1, which is %@", lines)
+        self.assertIn("nl: Widgets.breatheName: “Breathe Now”: is missing", lines)
+        self.assertFalse([line for line in lines if "Focus now" in line])
+        answer = json.loads(call("copy", "check", "--table", path + ".mo", "--json").stdout)
+        self.assertEqual(len(answer), len(lines))
+        self.assertIn({"language": "nl", "members": ["Widgets.until"], "key": "until %@", "form": "tot %lld",
+                       "what": "has %lld for value 1, which is %@"}, answer)
+        self.assert_fails(call("copy", "check", "--table", path + ".po"), 1, "nl.po", "msgfmt")
+        self.assert_fails(call("copy", "check", "--table", path), 1, "No such file")
+        self.assert_fails(call("copy", "check", "--table", self.folder.name), 1, "not a regular file")
+
     def test_a_wrong_call_is_one_line_and_code_2(self):
         for arguments, text in [
             ([], "a command is missing"),
@@ -271,6 +328,10 @@ class OrvelctlTests(unittest.TestCase):
             (["day", "--out", "a.gif"], "a.gif"),
             (["gallery"], "--out"),
             (["gallery", "--out", "x", "--only", "kitchen"], "kitchen"),
+            (["copy"], "a command is missing"),
+            (["copy", "list", "--namespace", "Gadgets"], "Gadgets"),
+            (["copy", "list", "--language", "../de"], "../de"),
+            (["copy", "check", "--table"], "--table"),
             (["link", "make", "moon"], "moon"),
             (["link", "make", "breathe", "--minutes", "few"], "few"),
             (["link", "make", "focus", "--minutes", "3"], "breathe only"),

@@ -18,6 +18,7 @@ BELOW = {
     "OrvelShared": ["OrvelPlatform/Base"],
     "OrvelCopy": ["OrvelPlatform/Base", "OrvelCopy/Lookup"],
     "OrvelCopy/Lookup": ["OrvelPlatform/Base"],
+    "OrvelCopy/Checks": ["OrvelPlatform/Base", "OrvelCopy/Lookup"],
     "OrvelDesign": ["OrvelPlatform/Base"],
     "OrvelDesign/Drawn": ["OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelDesign"],
     "OrvelWidgetsUI": ["OrvelPlatform/Base", "OrvelShared", "OrvelCopy", "OrvelCopy/Lookup", "OrvelDesign"],

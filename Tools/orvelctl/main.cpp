@@ -12,6 +12,7 @@ int main(int argc, char** argv)
         addSnapshotCommand(app, action);
         addTokensCommand(app, action);
         addMetricsCommand(app, action);
+        addCopyCommand(app, action);
         addHandedOverCommands(app, action, argv);
     });
 }

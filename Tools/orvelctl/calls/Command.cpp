@@ -47,6 +47,12 @@ void addLocaleOption(CLI::App* command, std::optional<orvel::Locale>& locale)
         ->type_name("LOCALE");
 }
 
+void addLanguageOption(CLI::App* command, std::optional<orvel::Locale>& language, const std::string& what)
+{
+    addParsedOption(command, "--language", language, orvel::Locale::named, "language such as de or pt_BR", what)
+        ->type_name("LANGUAGE");
+}
+
 CLI::Validator within(double least, double most)
 {
     const auto check = [least, most](std::string& text) {

@@ -30,6 +30,9 @@ void addTimeZoneOption(CLI::App* command, std::optional<orvel::TimeZone>& zone);
 /// `--locale L`: the language of words and the habits of formats; without it the user's own of each.
 void addLocaleOption(CLI::App* command, std::optional<orvel::Locale>& locale);
 
+/// `--language L`: a language of words, where another than the user's own is meant.
+void addLanguageOption(CLI::App* command, std::optional<orvel::Locale>& language, const std::string& what);
+
 /// A number within bounds; what is no number is none of them either.
 CLI::Validator within(double least, double most);
 
