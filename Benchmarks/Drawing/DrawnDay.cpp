@@ -29,6 +29,9 @@ using nlohmann::json;
 constexpr auto look = WidgetLook::dusk;
 constexpr auto size = WidgetSize::medium;
 
+/// Every tenth entry: countdowns, waits and Focuses.
+constexpr std::size_t step = 10;
+
 std::vector<WidgetContent> contents()
 {
     const auto zone = TimeZone::named(sampleZone);
@@ -39,9 +42,10 @@ std::vector<WidgetContent> contents()
     const auto snapshot = sampleSnapshot();
     WidgetMoments moments(snapshot, calendar);
     std::vector<WidgetContent> contents;
-    for (const auto date :
-        snapshot.timelineDates(sampleNow(), calendar, OrvelProvider::countdownSpan, OrvelProvider::limit))
-        contents.push_back(WidgetContent::status(moments.moment(date), *locale, calendar));
+    const auto dates =
+        snapshot.timelineDates(sampleNow(), calendar, OrvelProvider::countdownSpan, OrvelProvider::limit);
+    for (std::size_t i = 0; i < dates.size(); i += step)
+        contents.push_back(WidgetContent::status(moments.moment(dates[i]), *locale, calendar));
     return contents;
 }
 

@@ -20,6 +20,8 @@ public:
     /// The words, colours and sizes as JSON.
     std::string forPeers() const;
 
+    std::size_t contentCount() const { return m_contents.size(); }
+
     /// Draws one content after the other, over and over. Throws where one cannot be drawn.
     orvel::Picture again();
 

@@ -48,7 +48,7 @@ int run(int argc, char** argv)
         fmt::print("{}\n", day.forPeers());
         return 0;
     }
-    for (int i = 0; i < 2 * 240; ++i) // all words were shown before
+    for (std::size_t i = 0; i < day.contentCount(); ++i)
         day.again();
     const double again = median(frames, [&] { day.again(); });
     const double newWords = median(frames, [&] { day.withNewWords(); });

@@ -18,6 +18,7 @@ namespace orvel {
 
 namespace {
 
+/// Paragraphs in one generation of what is kept: all that a few widgets show in a day.
 constexpr std::size_t mostKept = 1024;
 
 /// No picture shows more; what comes from outside may be of any length.
@@ -172,26 +173,36 @@ PangoTextSystem::PangoTextSystem(const std::filesystem::path& folder, FontScope 
 
 std::shared_ptr<const ShapedText> PangoTextSystem::shape(const TextBlock& block, double width)
 {
-    auto inOneLine = shapeOnce(block, infiniteLength);
+    // A line by itself is the same for every limit and alignment: kept once, it serves all that is asked of a text.
+    auto single = block;
+    single.lineLimit = 0;
+    single.alignment = TextAlignment::leading;
+    single.balanced = false;
+    auto inOneLine = shapeOnce(single, infiniteLength);
     return inOneLine->size.width <= width ? inOneLine : shapeOnce(block, width);
 }
 
 std::shared_ptr<const ShapedText> PangoTextSystem::shapeOnce(const TextBlock& block, double width)
 {
-    if (const auto known = m_kept.find(block); known != m_kept.end()) {
-        for (const auto& [took, offered, text] : known->second) {
-            if (took <= width && width <= offered)
-                return text;
-        }
-    }
-    if (m_keptCount >= mostKept) {
-        m_kept.clear();
-        m_keptCount = 0;
+    auto& kept = keptOf(block);
+    for (const auto& [took, offered, text] : kept) {
+        if (took <= width && width <= offered)
+            return text;
     }
     auto text = shapeAfresh(block, width);
-    m_kept[block].push_back({ std::min(text->size.width, width), width, text });
-    ++m_keptCount;
+    kept.push_back({ std::min(text->size.width, width), width, text });
     return text;
+}
+
+std::vector<PangoTextSystem::Kept>& PangoTextSystem::keptOf(const TextBlock& block)
+{
+    if (const auto known = m_kept.find(block); known != m_kept.end())
+        return known->second;
+    if (m_kept.size() >= mostKept)
+        m_older = std::exchange(m_kept, {});
+    if (auto known = m_older.extract(block))
+        return m_kept.insert(std::move(known)).position->second;
+    return m_kept[block];
 }
 
 std::shared_ptr<const ShapedText> PangoTextSystem::shapeAfresh(const TextBlock& block, double width)

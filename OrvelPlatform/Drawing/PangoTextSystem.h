@@ -34,13 +34,16 @@ private:
         double descent;
     };
 
+    using KeptTexts = std::unordered_map<TextBlock, std::vector<Kept>, Hash>;
+
+    std::vector<Kept>& keptOf(const TextBlock& block);
     std::shared_ptr<const ShapedText> shapeOnce(const TextBlock& block, double width);
     std::shared_ptr<const ShapedText> shapeAfresh(const TextBlock& block, double width);
     Heights heights(const TextStyle& style);
 
     FontMaps m_fonts;
-    std::unordered_map<TextBlock, std::vector<Kept>, Hash> m_kept;
-    std::size_t m_keptCount = 0;
+    KeptTexts m_kept;
+    KeptTexts m_older; // the generation before: what is not asked for again goes with it
     std::map<std::tuple<FontFamily, int, bool>, Heights> m_heights;
 };
 
