@@ -69,8 +69,9 @@ json colorsForPeers()
     for (const auto& stop : background.stops)
         stops.push_back({ { "location", stop.location }, { "color", hex(stop.color) } });
     return { { "kicker", hex(colors.kicker()) }, { "title", hex(colors.title()) }, { "detail", hex(colors.detail()) },
-        { "progress", hex(colors.ringProgress()) }, { "track", hex(colors.ringTrack()) }, { "line", hex(colors.line()) },
-        { "capsule", hex(colors.accentFill()) }, { "onCapsule", hex(colors.accentOn()) }, { "background", stops } };
+        { "progress", hex(colors.ringProgress()) }, { "track", hex(colors.ringTrack()) },
+        { "line", hex(colors.line()) }, { "capsule", hex(colors.accentFill()) },
+        { "onCapsule", hex(colors.accentOn()) }, { "background", stops } };
 }
 
 json forPeers(const WidgetContent& content)

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "OrvelPlatform/Drawing/Handles.h"
+#include "OrvelPlatform/Drawing/PendingClips.h"
 #include "OrvelPlatform/Drawing/Sources.h"
 #include "OrvelPlatform/Views/Canvas.h"
 
@@ -34,12 +36,18 @@ private:
     void entered(const State& state) override;
     void left(const State& state) override;
 
-    void paintOn(const Paint& paint, const PaintedArea& area, const Drawing& drawing);
+    /// `pixels` is where it draws; absent where that is not known.
+    void paintOn(
+        const Paint& paint, const PaintedArea& area, const std::optional<Rect>& pixels, const Drawing& drawing);
+    void paintMask(const Paint& paint, const PaintedArea& area, _cairo_surface* mask, Point at);
+    void paintShape(const Paint& paint, const PaintedArea& area, SurfaceKey key, const Drawing& drawing);
     _cairo* current() const;
 
     std::vector<CairoHandle> m_contexts; // the default layer's, then the accent's
     Sources m_sources;
     bool m_isVector;
+    PendingClips m_clips;
+    std::vector<std::size_t> m_appliedBefore; // a group each
     int m_accents = 0;
 };
 

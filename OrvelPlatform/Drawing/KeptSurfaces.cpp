@@ -21,6 +21,17 @@ SurfaceKey& SurfaceKey::add(std::string_view text)
     return *this;
 }
 
+void addTo(SurfaceKey& key, const Outline& outline)
+{
+    key.add(static_cast<double>(outline.index()));
+    if (const auto* rounded = std::get_if<RoundedRectangle>(&outline))
+        key.add(rounded->radius);
+    if (const auto* arc = std::get_if<Arc>(&outline))
+        key.add(arc->start).add(arc->sweep);
+    if (const auto* ring = std::get_if<Ring>(&outline))
+        key.add(ring->width);
+}
+
 std::shared_ptr<cairo_surface_t> KeptSurfaces::find(const SurfaceKey& key, const std::function<SurfaceHandle()>& make)
 {
     if (const auto found = m_byKey.find(key.bytes()); found != m_byKey.end()) {

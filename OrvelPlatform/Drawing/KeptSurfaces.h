@@ -9,6 +9,7 @@
 #include <unordered_map>
 
 #include "OrvelPlatform/Drawing/Handles.h"
+#include "OrvelPlatform/Views/Outline.h"
 
 namespace orvel {
 
@@ -26,8 +27,11 @@ private:
     std::string m_bytes;
 };
 
-/// Surfaces that are the same in many frames: gradients and blurred shadows. Those not used for the longest time go
-/// first when they are more than `limit` bytes.
+/// Adds an outline without the rectangle that it is drawn in.
+void addTo(SurfaceKey& key, const Outline& outline);
+
+/// Surfaces that are the same in many frames: gradients, blurred shadows and the coverage of shapes. Those not used for
+/// the longest time go first when they are more than `limit` bytes.
 class KeptSurfaces {
 public:
     explicit KeptSurfaces(std::size_t limit) : m_limit(limit) { }
