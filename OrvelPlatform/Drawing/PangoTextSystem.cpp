@@ -19,7 +19,8 @@ namespace orvel {
 namespace {
 
 /// Paragraphs in one generation of what is kept: all that a few widgets show in a day.
-constexpr std::size_t mostKept = 1024;
+constexpr std::size_t mostKept = 512;
+constexpr std::size_t mostSets = 32; // ways to set one paragraph
 
 /// No picture shows more; what comes from outside may be of any length.
 constexpr std::size_t longestText = 16 * 1024;
@@ -161,7 +162,7 @@ std::size_t mixed(std::size_t seed, std::size_t value)
 
 std::size_t PangoTextSystem::Hash::operator()(const TextBlock& block) const
 {
-    auto seed = static_cast<std::size_t>(block.lineLimit);
+    auto seed = static_cast<std::size_t>(block.direction);
     for (const auto& run : block.runs) {
         seed = mixed(seed, std::hash<std::string> {}(run.text));
         seed = mixed(seed, std::hash<double> {}(run.style.size + run.style.weight));
@@ -173,36 +174,34 @@ PangoTextSystem::PangoTextSystem(const std::filesystem::path& folder, FontScope 
 
 std::shared_ptr<const ShapedText> PangoTextSystem::shape(const TextBlock& block, double width)
 {
-    // A line by itself is the same for every limit and alignment: kept once, it serves all that is asked of a text.
-    auto single = block;
-    single.lineLimit = 0;
-    single.alignment = TextAlignment::leading;
-    single.balanced = false;
-    auto inOneLine = shapeOnce(single, infiniteLength);
-    return inOneLine->size.width <= width ? inOneLine : shapeOnce(block, width);
-}
-
-std::shared_ptr<const ShapedText> PangoTextSystem::shapeOnce(const TextBlock& block, double width)
-{
     auto& kept = keptOf(block);
-    for (const auto& [took, offered, text] : kept) {
-        if (took <= width && width <= offered)
-            return text;
-    }
+    if (kept.inOneLine->size.width <= width)
+        return kept.inOneLine;
+    const auto fits = [&](const Set& set) {
+        return set.lineLimit == block.lineLimit && set.alignment == block.alignment && set.balanced == block.balanced
+            && set.took <= width && width <= set.offered;
+    };
+    if (const auto known = std::ranges::find_if(kept.sets, fits); known != kept.sets.end())
+        return known->text;
+    if (kept.sets.size() >= mostSets)
+        kept.sets.clear();
     auto text = shapeAfresh(block, width);
-    kept.push_back({ std::min(text->size.width, width), width, text });
+    kept.sets.push_back(
+        { block.lineLimit, block.alignment, block.balanced, std::min(text->size.width, width), width, text });
     return text;
 }
 
-std::vector<PangoTextSystem::Kept>& PangoTextSystem::keptOf(const TextBlock& block)
+PangoTextSystem::Kept& PangoTextSystem::keptOf(const TextBlock& block)
 {
     if (const auto known = m_kept.find(block); known != m_kept.end())
         return known->second;
     if (m_kept.size() >= mostKept)
         m_older = std::exchange(m_kept, {});
-    if (auto known = m_older.extract(block))
-        return m_kept.insert(std::move(known)).position->second;
-    return m_kept[block];
+    if (const auto known = m_older.find(block); known != m_older.end())
+        return m_kept.insert(m_older.extract(known)).position->second;
+    // A line by itself is the same for every limit and alignment.
+    const TextBlock inOneLine { .runs = block.runs, .direction = block.direction };
+    return m_kept.emplace(inOneLine, Kept { shapeAfresh(inOneLine, infiniteLength), {} }).first->second;
 }
 
 std::shared_ptr<const ShapedText> PangoTextSystem::shapeAfresh(const TextBlock& block, double width)

@@ -28,6 +28,12 @@ std::size_t MeasureMemory::Hash::operator()(const Question& question) const
     return mixed(seed, hashOf(question.proposed.height));
 }
 
+MeasureMemory::MeasureMemory()
+{
+    constexpr std::size_t inOneWidget = 512;
+    m_answers.reserve(inOneWidget);
+}
+
 std::size_t MeasureMemory::index(const Environment& environment)
 {
     const auto found = std::ranges::find(m_environments, environment);

@@ -16,6 +16,8 @@ namespace orvel {
 /// not used again.
 class MeasureMemory {
 public:
+    MeasureMemory();
+
     Extent measure(const View& view, const Proposal& proposed, const Environment& environment);
     View body(const View& view, const Environment& environment);
 

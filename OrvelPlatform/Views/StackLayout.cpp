@@ -2,23 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <map>
 #include <span>
 
 namespace orvel {
 
 namespace {
-
-/// Those of one priority, by index.
-using Group = std::vector<std::size_t>;
-
-std::map<double, Group, std::greater<>> groups(const std::vector<StackLayout::Child>& children)
-{
-    std::map<double, Group, std::greater<>> byPriority;
-    for (std::size_t i = 0; i < children.size(); ++i)
-        byPriority[children[i].view.stackTraits().priority].push_back(i);
-    return byPriority;
-}
 
 struct Range {
     double least;
@@ -39,7 +27,10 @@ double lengthAt(double level, std::span<const Range> ranges)
 /// limits the sum grows in proportion to the number of those who take part.
 double equalShare(double available, std::span<const Range> ranges)
 {
+    if (ranges.size() == 1)
+        return ranges.front().within(available);
     std::vector<double> limits { 0 };
+    limits.reserve(2 * ranges.size() + 1);
     for (const auto& range : ranges) {
         limits.push_back(range.least);
         limits.push_back(range.most);
@@ -67,6 +58,7 @@ double remaining(double available, double taken)
 StackLayout::StackLayout(Axis axis, double spacing, const std::vector<View>& children)
     : m_axis(axis), m_spacing(spacing)
 {
+    m_children.reserve(children.size());
     std::ranges::copy_if(
         children, std::back_inserter(m_children), [](const View& child) { return !child.isNothing(); });
 }
@@ -90,25 +82,36 @@ double StackLayout::lengthOf(
 void StackLayout::share(
     std::vector<Child>& children, double available, ProposedLength across, const Environment& environment) const
 {
-    std::vector<Range> ranges;
-    for (const auto& child : children)
-        ranges.push_back({ lengthOf(child.view, 0, across, environment),
-            lengthOf(child.view, infiniteLength, across, environment) });
-
+    struct Waiting {
+        Child* child;
+        double priority;
+        Range range;
+    };
+    std::vector<Waiting> waiting;
+    waiting.reserve(children.size());
     double reserved = 0; // for the priorities that are still to come
-    for (const auto& range : ranges)
+    for (auto& child : children) {
+        const Range range { lengthOf(child.view, 0, across, environment),
+            lengthOf(child.view, infiniteLength, across, environment) };
+        waiting.push_back({ &child, child.view.stackTraits().priority, range });
         reserved += range.least;
-    for (auto& [priority, group] : groups(children)) {
-        for (const auto i : group)
-            reserved -= ranges[i].least;
-        std::ranges::stable_sort(group, {}, [&](std::size_t i) { return ranges[i].flexibility(); });
-        std::vector<Range> unserved;
-        for (const auto i : group)
-            unserved.push_back(ranges[i]);
-        for (std::size_t served = 0; served < group.size(); ++served) {
-            const std::span rest(unserved.begin() + static_cast<std::ptrdiff_t>(served), unserved.end());
+    }
+    std::ranges::stable_sort(waiting, [](const Waiting& a, const Waiting& b) {
+        return a.priority > b.priority || (a.priority == b.priority && a.range.flexibility() < b.range.flexibility());
+    });
+    std::vector<Range> ranges;
+    ranges.reserve(waiting.size());
+    for (const auto& each : waiting)
+        ranges.push_back(each.range);
+
+    for (std::size_t first = 0; first < waiting.size();) {
+        std::size_t end = first;
+        for (; end < waiting.size() && waiting[end].priority == waiting[first].priority; ++end)
+            reserved -= ranges[end].least;
+        for (; first < end; ++first) {
+            const auto rest = std::span(ranges).subspan(first, end - first);
             const double offered = rest.front().within(equalShare(remaining(available, reserved), rest));
-            auto& child = children[group[served]];
+            auto& child = *waiting[first].child;
             child.extent = measured(child.view, offered, across, environment);
             available = remaining(available, along(child.extent.size));
         }
@@ -118,6 +121,7 @@ void StackLayout::share(
 std::vector<StackLayout::Child> StackLayout::served(const Proposal& proposed, const Environment& environment) const
 {
     std::vector<Child> children;
+    children.reserve(m_children.size());
     for (const auto& view : m_children)
         children.push_back({ view, {}, 0 });
     if (children.empty())
