@@ -18,6 +18,7 @@ namespace {
 
 constexpr double longestMask = 16384; // pixels; the library's own surfaces end at twice that
 constexpr double mostPixels = 64 * 1024; // in a shape's mask that is kept
+constexpr double mostGround = 2048 * 2048; // pixels in a ground that is kept
 constexpr double hairline = 1; // points; what is at most as thin is one
 
 CairoHandle contextOn(cairo_surface_t* surface, double scale)
@@ -84,6 +85,36 @@ void CairoCanvas::paintMask(const Paint& paint, const PaintedArea& area, cairo_s
     });
 }
 
+/// A gradient within rounded corners, the ground of most widgets, is kept as the clips cut it.
+void CairoCanvas::paintGround(const LinearGradient& gradient, const PaintedArea& area, const Drawing& drawing)
+{
+    auto* const context = current();
+    const auto pixels = inPixels(context, area.rect);
+    const auto box = pixelsAround(pixels);
+    SurfaceKey key("ground");
+    addTo(key, gradient);
+    key.add(pixels.x).add(pixels.y).add(pixels.width).add(pixels.height).add(scaleOf(context));
+    m_clips.addTo(key);
+    const auto ground = m_sources.kept.find(key, [&] {
+        SurfaceHandle surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, box.width, box.height));
+        cairo_surface_set_device_offset(surface.get(), -box.left, -box.top);
+        const CairoHandle onGround(cairo_create(surface.get()));
+        cairo_matrix_t matrix;
+        cairo_get_matrix(context, &matrix);
+        cairo_set_matrix(onGround.get(), &matrix);
+        m_clips.applyTo(onGround.get());
+        KeptSurfaces nothing(0);
+        if (setSource({ nothing, m_sources.textures, false }, onGround.get(), gradient, area))
+            drawing(onGround.get());
+        return surface;
+    });
+    const PixelScope inPixels(context);
+    cairo_set_source_surface(context, ground.get(), 0, 0); // the surface knows where it lies
+    cairo_pattern_set_filter(cairo_get_source(context), CAIRO_FILTER_NEAREST);
+    cairo_rectangle(context, box.left, box.top, box.width, box.height);
+    cairo_fill(context);
+}
+
 /// Draws by a mask that is kept: most shapes are the same in every frame. The key says what the drawing draws; where it
 /// stands among the pixels is added here.
 void CairoCanvas::paintShape(const Paint& paint, const PaintedArea& area, SurfaceKey key, const Drawing& drawing)
@@ -128,8 +159,13 @@ void CairoCanvas::fill(const Outline& outline, const Rect& in, const Paint& pain
         addPath(context, outline, in);
         cairo_fill(context);
     };
-    if (std::holds_alternative<Rectangle>(outline))
-        return paintOn(paint, area, inPixels(current(), in), drawing);
+    if (std::holds_alternative<Rectangle>(outline)) {
+        const auto pixels = inPixels(current(), in);
+        const auto* gradient = std::get_if<LinearGradient>(&paint);
+        const bool isGround =
+            gradient && !m_isVector && m_clips.cut(pixels) && pixels.width * pixels.height <= mostGround;
+        return isGround ? paintGround(*gradient, area, drawing) : paintOn(paint, area, pixels, drawing);
+    }
     SurfaceKey key("fill");
     addTo(key, outline);
     paintShape(paint, area, std::move(key), drawing);

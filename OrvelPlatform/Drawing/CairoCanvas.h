@@ -40,6 +40,7 @@ private:
     void paintOn(
         const Paint& paint, const PaintedArea& area, const std::optional<Rect>& pixels, const Drawing& drawing);
     void paintMask(const Paint& paint, const PaintedArea& area, _cairo_surface* mask, Point at);
+    void paintGround(const LinearGradient& gradient, const PaintedArea& area, const Drawing& drawing);
     void paintShape(const Paint& paint, const PaintedArea& area, SurfaceKey key, const Drawing& drawing);
     _cairo* current() const;
 

@@ -52,6 +52,15 @@ void PendingClips::applyTo(cairo_t* context) const
     cairo_set_matrix(context, &before);
 }
 
+void PendingClips::addTo(SurfaceKey& key) const
+{
+    for (std::size_t i = m_applied; i < m_clips.size(); ++i) {
+        const auto& [outline, in, matrix, pixels, scale] = m_clips[i];
+        orvel::addTo(key, outline);
+        key.add(pixels.x).add(pixels.y).add(pixels.width).add(pixels.height).add(scale);
+    }
+}
+
 /// How far the rectangle reaches into the corners, measured from the centres of their arcs.
 bool PendingClips::isWithin(const Rect& pixels, const Clip& clip)
 {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "OrvelPlatform/Drawing/Handles.h"
+#include "OrvelPlatform/Drawing/KeptSurfaces.h"
 #include "OrvelPlatform/Views/Outline.h"
 
 namespace orvel {
@@ -23,6 +24,9 @@ public:
     /// From now on all are applied; gives how many were before.
     std::size_t setAllApplied() { return std::exchange(m_applied, m_clips.size()); }
     void setApplied(std::size_t count) { m_applied = count; }
+
+    /// Adds those that are not yet applied.
+    void addTo(SurfaceKey& key) const;
 
     /// Whether something within these device pixels may be cut; absent pixels: it is not known where it draws.
     bool cut(const std::optional<Rect>& pixels) const;

@@ -38,18 +38,16 @@ Pattern patternOf(const RadialGradient& gradient, const Rect& in)
     return Pattern(cairo_pattern_create_radial(x, y, 0, x, y, gradient.radius));
 }
 
-SurfaceKey keyOf(const LinearGradient& gradient)
+void addTo(SurfaceKey& key, const std::vector<GradientStop>& stops)
 {
-    SurfaceKey key("linear");
-    key.add(gradient.start.x).add(gradient.start.y).add(gradient.end.x).add(gradient.end.y);
-    return key;
+    for (const auto& [location, color] : stops)
+        key.add(location).add(color.red).add(color.green).add(color.blue).add(color.alpha);
 }
 
-SurfaceKey keyOf(const RadialGradient& gradient)
+void addTo(SurfaceKey& key, const RadialGradient& gradient)
 {
-    SurfaceKey key("radial");
-    key.add(gradient.center.x).add(gradient.center.y).add(gradient.radius);
-    return key;
+    key.add(std::string_view("radial")).add(gradient.center.x).add(gradient.center.y).add(gradient.radius);
+    addTo(key, gradient.stops);
 }
 
 void paintPixels(const PixelGrid& grid, const LinearGradient& gradient, double)
@@ -100,9 +98,8 @@ bool setGradient(const Sources& sources, cairo_t* context, const Gradient& gradi
         cairo_set_source(context, pattern.get());
         return true;
     }
-    auto key = keyOf(gradient);
-    for (const auto& [location, color] : gradient.stops)
-        key.add(location).add(color.red).add(color.green).add(color.blue).add(color.alpha);
+    SurfaceKey key("gradient");
+    addTo(key, gradient);
     key.add(painted.x - box.left).add(painted.y - box.top).add(painted.width).add(painted.height);
     key.add(box.width).add(box.height).add(scale);
     const auto surface = sources.kept.find(key, [&] { return surfaceOf(gradient, place); });
@@ -139,6 +136,16 @@ bool setTexture(const Sources& sources, cairo_t* context, const Texture& texture
     return true;
 }
 
+}
+
+void addTo(SurfaceKey& key, const LinearGradient& gradient)
+{
+    key.add(std::string_view("linear"))
+        .add(gradient.start.x)
+        .add(gradient.start.y)
+        .add(gradient.end.x)
+        .add(gradient.end.y);
+    addTo(key, gradient.stops);
 }
 
 bool setSource(const Sources& sources, cairo_t* context, const Paint& paint, const PaintedArea& area)

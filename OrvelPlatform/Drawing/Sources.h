@@ -24,6 +24,9 @@ struct PaintedArea {
     double margin;
 };
 
+/// Adds a gradient without the rectangle that it is laid out on.
+void addTo(SurfaceKey& key, const LinearGradient& gradient);
+
 /// Makes a paint the context's source; false where it paints nothing.
 bool setSource(const Sources& sources, _cairo* context, const Paint& paint, const PaintedArea& area);
 

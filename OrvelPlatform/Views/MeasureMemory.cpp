@@ -1,6 +1,7 @@
 #include "OrvelPlatform/Views/MeasureMemory.h"
 
 #include <algorithm>
+#include <bit>
 #include <functional>
 
 namespace orvel {
@@ -15,7 +16,7 @@ std::size_t mixed(std::size_t seed, std::size_t value)
 
 std::size_t hashOf(const ProposedLength& length)
 {
-    return std::hash<double> {}(length.value_or(-1));
+    return std::bit_cast<std::size_t>(length.value_or(-1) + 0.0); // both zeros are one
 }
 
 }
