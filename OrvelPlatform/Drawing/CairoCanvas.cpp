@@ -57,6 +57,7 @@ cairo_t* CairoCanvas::current() const
 void CairoCanvas::paintOn(
     const Paint& paint, const PaintedArea& area, const std::optional<Rect>& pixels, const Drawing& drawing)
 {
+    m_isClear = false;
     const auto drawClipped = [&](cairo_t* context) {
         const PendingClips::Scope clipped(m_clips, context, pixels);
         drawing(context);
@@ -112,7 +113,10 @@ void CairoCanvas::paintGround(const LinearGradient& gradient, const PaintedArea&
     cairo_set_source_surface(context, ground.get(), 0, 0); // the surface knows where it lies
     cairo_pattern_set_filter(cairo_get_source(context), CAIRO_FILTER_NEAREST);
     cairo_rectangle(context, box.left, box.top, box.width, box.height);
+    cairo_set_operator(context, m_isClear ? CAIRO_OPERATOR_SOURCE : CAIRO_OPERATOR_OVER); // to copy is quicker
     cairo_fill(context);
+    cairo_set_operator(context, CAIRO_OPERATOR_OVER);
+    m_isClear = false;
 }
 
 /// Draws by a mask that is kept: most shapes are the same in every frame. The key says what the drawing draws; where it
@@ -264,8 +268,10 @@ void CairoCanvas::entered(const State& state)
     }
     if (const auto* clip = std::get_if<Clip>(&state))
         m_clips.push(m_contexts.front().get(), clip->outline, clip->in);
-    if (std::holds_alternative<Fade>(state))
+    if (std::holds_alternative<Fade>(state)) {
         m_appliedBefore.push_back(m_clips.setAllApplied());
+        m_isClear = false;
+    }
     if (std::holds_alternative<Accent>(state))
         ++m_accents;
 }

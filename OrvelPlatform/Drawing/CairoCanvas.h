@@ -14,6 +14,7 @@ namespace orvel {
 /// Paints on one surface, or on two for a tinted picture.
 class CairoCanvas final : public Canvas {
 public:
+    /// Surfaces on which nothing has been drawn.
     struct Target {
         _cairo_surface* whole; // or the default layer
         _cairo_surface* accent; // null: everything on one surface
@@ -47,6 +48,7 @@ private:
     std::vector<CairoHandle> m_contexts; // the default layer's, then the accent's
     Sources m_sources;
     bool m_isVector;
+    bool m_isClear = true; // nothing was painted yet
     PendingClips m_clips;
     std::vector<std::size_t> m_appliedBefore; // a group each
     int m_accents = 0;

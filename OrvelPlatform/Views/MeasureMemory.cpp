@@ -8,6 +8,9 @@ namespace orvel {
 
 namespace {
 
+constexpr std::size_t answersInOneWidget = 256;
+constexpr std::size_t roomForThem = answersInOneWidget * 128;
+
 std::size_t mixed(std::size_t seed, std::size_t value)
 {
     constexpr std::size_t golden = 0x9e3779b97f4a7c15; // spreads the bits of small numbers
@@ -29,10 +32,9 @@ std::size_t MeasureMemory::Hash::operator()(const Question& question) const
     return mixed(seed, hashOf(question.proposed.height));
 }
 
-MeasureMemory::MeasureMemory()
+MeasureMemory::MeasureMemory() : m_room(roomForThem)
 {
-    constexpr std::size_t inOneWidget = 512;
-    m_answers.reserve(inOneWidget);
+    m_answers.reserve(answersInOneWidget);
 }
 
 std::size_t MeasureMemory::index(const Environment& environment)
