@@ -215,7 +215,7 @@ std::shared_ptr<const ShapedText> PangoTextSystem::shapeAfresh(const TextBlock& 
     const auto& style = block.runs.front().style;
     const auto [ascent, descent] = heights(style);
     return std::make_shared<const PangoShapedText>(
-        std::move(layout), block, std::move(paragraph.runEnds), ascent * style.size, descent * style.size);
+        std::move(layout), block, std::move(paragraph.runEnds), ascent * style.size, descent * style.size, m_glyphs);
 }
 
 PangoTextSystem::Heights PangoTextSystem::heights(const TextStyle& style)

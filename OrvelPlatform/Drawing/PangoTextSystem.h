@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "OrvelPlatform/Drawing/FontMaps.h"
+#include "OrvelPlatform/Drawing/GlyphMasks.h"
 #include "OrvelPlatform/Views/TextSystem.h"
 
 namespace orvel {
@@ -57,6 +58,7 @@ private:
     Heights heights(const TextStyle& style);
 
     FontMaps m_fonts;
+    std::shared_ptr<GlyphMasks> m_glyphs = std::make_shared<GlyphMasks>();
     KeptTexts m_kept;
     KeptTexts m_older; // the generation before: what is not asked for again goes with it
     std::map<std::tuple<FontFamily, int, bool>, Heights> m_heights;
