@@ -55,7 +55,7 @@ private:
 
     Kept& keptOf(const TextBlock& block);
     std::shared_ptr<const ShapedText> shapeAfresh(const TextBlock& block, double width);
-    Heights heights(const TextStyle& style);
+    Heights heights(const TextStyle& style, _PangoLayout* layout);
 
     FontMaps m_fonts;
     std::shared_ptr<GlyphMasks> m_glyphs = std::make_shared<GlyphMasks>();

@@ -20,17 +20,13 @@ void WidgetProgressBar::draw(Canvas& canvas, const Rect& in, const Environment& 
     const double filled = std::clamp(progress, 0.0, 1.0) * in.width;
     if (filled <= 0)
         return;
-    const auto ink = paint(colors.ringProgress(), look, environment);
+    // However short, its front is round: what would stand out behind the track's start is clipped away.
     const auto direction = environment.get<LayoutDirectionKey>();
     const double length = std::max(filled, in.height);
     const double x = placedX(filled, in.x, in.width, HorizontalAlignment::leading, direction)
         - (direction == LayoutDirection::leftToRight ? length - filled : 0);
-    const Rect bar { x, in.y, length, in.height };
-    if (length == filled)
-        return canvas.fill(Capsule {}, bar, ink);
-    // However short, its front is round: what would stand out behind the track's start is clipped away.
     const auto clipped = canvas.clipped(Capsule {}, in);
-    canvas.fill(Capsule {}, bar, ink);
+    canvas.fill(Capsule {}, { x, in.y, length, in.height }, paint(colors.ringProgress(), look, environment));
 }
 
 }
