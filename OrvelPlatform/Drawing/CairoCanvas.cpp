@@ -86,6 +86,30 @@ void CairoCanvas::paintMask(const Paint& paint, const PaintedArea& area, cairo_s
     });
 }
 
+SurfaceHandle CairoCanvas::groundSurface(
+    const LinearGradient& gradient, const PaintedArea& area, const Drawing& drawing) const
+{
+    auto* const context = current();
+    auto surface = gradientSurface(context, gradient, area);
+    // The outlines are cut as one: edges that coincide would be softened once for each.
+    const SurfaceHandle mask(cairo_surface_create_similar_image(surface.get(), CAIRO_FORMAT_A8,
+        cairo_image_surface_get_width(surface.get()), cairo_image_surface_get_height(surface.get())));
+    double left = 0, top = 0;
+    cairo_surface_get_device_offset(surface.get(), &left, &top);
+    cairo_surface_set_device_offset(mask.get(), left, top);
+    const CairoHandle onMask(cairo_create(mask.get()));
+    cairo_matrix_t matrix;
+    cairo_get_matrix(context, &matrix);
+    cairo_set_matrix(onMask.get(), &matrix);
+    m_clips.applyTo(onMask.get());
+    drawing(onMask.get());
+    const CairoHandle onGround(cairo_create(surface.get()));
+    cairo_set_operator(onGround.get(), CAIRO_OPERATOR_DEST_IN);
+    cairo_set_source_surface(onGround.get(), mask.get(), 0, 0);
+    cairo_paint(onGround.get());
+    return surface;
+}
+
 /// A gradient within rounded corners, the ground of most widgets, is kept as the clips cut it.
 void CairoCanvas::paintGround(const LinearGradient& gradient, const PaintedArea& area, const Drawing& drawing)
 {
@@ -96,19 +120,7 @@ void CairoCanvas::paintGround(const LinearGradient& gradient, const PaintedArea&
     addTo(key, gradient);
     key.add(pixels.x).add(pixels.y).add(pixels.width).add(pixels.height).add(scaleOf(context));
     m_clips.addTo(key);
-    const auto ground = m_sources.kept.find(key, [&] {
-        SurfaceHandle surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, box.width, box.height));
-        cairo_surface_set_device_offset(surface.get(), -box.left, -box.top);
-        const CairoHandle onGround(cairo_create(surface.get()));
-        cairo_matrix_t matrix;
-        cairo_get_matrix(context, &matrix);
-        cairo_set_matrix(onGround.get(), &matrix);
-        m_clips.applyTo(onGround.get());
-        KeptSurfaces nothing(0);
-        if (setSource({ nothing, m_sources.textures, false }, onGround.get(), gradient, area))
-            drawing(onGround.get());
-        return surface;
-    });
+    const auto ground = m_sources.kept.find(key, [&] { return groundSurface(gradient, area, drawing); });
     const PixelScope inPixels(context);
     cairo_set_source_surface(context, ground.get(), 0, 0); // the surface knows where it lies
     cairo_pattern_set_filter(cairo_get_source(context), CAIRO_FILTER_NEAREST);

@@ -42,6 +42,7 @@ private:
         const Paint& paint, const PaintedArea& area, const std::optional<Rect>& pixels, const Drawing& drawing);
     void paintMask(const Paint& paint, const PaintedArea& area, _cairo_surface* mask, Point at);
     void paintGround(const LinearGradient& gradient, const PaintedArea& area, const Drawing& drawing);
+    SurfaceHandle groundSurface(const LinearGradient& gradient, const PaintedArea& area, const Drawing& drawing) const;
     void paintShape(const Paint& paint, const PaintedArea& area, SurfaceKey key, const Drawing& drawing);
     _cairo* current() const;
 
