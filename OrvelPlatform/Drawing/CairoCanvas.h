@@ -1,9 +1,11 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "OrvelPlatform/Drawing/Handles.h"
+#include "OrvelPlatform/Drawing/PendingClips.h"
 #include "OrvelPlatform/Drawing/Sources.h"
 #include "OrvelPlatform/Views/Canvas.h"
 
@@ -12,6 +14,7 @@ namespace orvel {
 /// Paints on one surface, or on two for a tinted picture.
 class CairoCanvas final : public Canvas {
 public:
+    /// Surfaces on which nothing has been drawn.
     struct Target {
         _cairo_surface* whole; // or the default layer
         _cairo_surface* accent; // null: everything on one surface
@@ -34,12 +37,21 @@ private:
     void entered(const State& state) override;
     void left(const State& state) override;
 
-    void paintOn(const Paint& paint, const PaintedArea& area, const Drawing& drawing);
+    /// `pixels` is where it draws; absent where that is not known.
+    void paintOn(
+        const Paint& paint, const PaintedArea& area, const std::optional<Rect>& pixels, const Drawing& drawing);
+    void paintMask(const Paint& paint, const PaintedArea& area, _cairo_surface* mask, Point at);
+    void paintGround(const LinearGradient& gradient, const PaintedArea& area, const Drawing& drawing);
+    SurfaceHandle groundSurface(const LinearGradient& gradient, const PaintedArea& area, const Drawing& drawing) const;
+    void paintShape(const Paint& paint, const PaintedArea& area, SurfaceKey key, const Drawing& drawing);
     _cairo* current() const;
 
     std::vector<CairoHandle> m_contexts; // the default layer's, then the accent's
     Sources m_sources;
     bool m_isVector;
+    bool m_isClear = true; // nothing was painted yet
+    PendingClips m_clips;
+    std::vector<std::size_t> m_appliedBefore; // a group each
     int m_accents = 0;
 };
 

@@ -7,6 +7,13 @@
 
 namespace orvel {
 
+namespace {
+
+constexpr std::size_t small = 256U << 10U; // bytes
+constexpr std::size_t mostWantedOnce = 64;
+
+}
+
 SurfaceKey& SurfaceKey::add(double number)
 {
     const auto bytes = std::bit_cast<std::array<char, sizeof number>>(number);
@@ -21,6 +28,17 @@ SurfaceKey& SurfaceKey::add(std::string_view text)
     return *this;
 }
 
+void addTo(SurfaceKey& key, const Outline& outline)
+{
+    key.add(static_cast<double>(outline.index()));
+    if (const auto* rounded = std::get_if<RoundedRectangle>(&outline))
+        key.add(rounded->radius);
+    if (const auto* arc = std::get_if<Arc>(&outline))
+        key.add(arc->start).add(arc->sweep);
+    if (const auto* ring = std::get_if<Ring>(&outline))
+        key.add(ring->width);
+}
+
 std::shared_ptr<cairo_surface_t> KeptSurfaces::find(const SurfaceKey& key, const std::function<SurfaceHandle()>& make)
 {
     if (const auto found = m_byKey.find(key.bytes()); found != m_byKey.end()) {
@@ -30,8 +48,11 @@ std::shared_ptr<cairo_surface_t> KeptSurfaces::find(const SurfaceKey& key, const
     std::shared_ptr<cairo_surface_t> surface(make());
     const auto size = static_cast<std::size_t>(cairo_image_surface_get_stride(surface.get()))
         * static_cast<std::size_t>(cairo_image_surface_get_height(surface.get()));
-    if (size > m_limit)
+    if (m_wantedOnce.size() > mostWantedOnce)
+        m_wantedOnce.clear();
+    if (size > m_limit || (size > small && m_wantedOnce.insert(key.bytes()).second))
         return surface;
+    m_wantedOnce.erase(key.bytes());
     m_entries.push_front({ key.bytes(), surface, size });
     m_byKey.emplace(m_entries.front().key, m_entries.begin());
     m_size += size;

@@ -7,8 +7,10 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 
 #include "OrvelPlatform/Drawing/Handles.h"
+#include "OrvelPlatform/Views/Outline.h"
 
 namespace orvel {
 
@@ -26,8 +28,12 @@ private:
     std::string m_bytes;
 };
 
-/// Surfaces that are the same in many frames: gradients and blurred shadows. Those not used for the longest time go
-/// first when they are more than `limit` bytes.
+/// Adds an outline without the rectangle that it is drawn in.
+void addTo(SurfaceKey& key, const Outline& outline);
+
+/// Surfaces that are the same in many frames: gradients, blurred shadows and the coverage of shapes. Those not used for
+/// the longest time go first when they are more than `limit` bytes. A large one is kept from the second time on that it
+/// is wanted: who draws a single picture needs no copy of its ground.
 class KeptSurfaces {
 public:
     explicit KeptSurfaces(std::size_t limit) : m_limit(limit) { }
@@ -46,6 +52,7 @@ private:
     std::size_t m_size = 0;
     std::list<Entry> m_entries; // the latest first
     std::unordered_map<std::string_view, std::list<Entry>::iterator> m_byKey; // the views are of the entries' keys
+    std::unordered_set<std::string> m_wantedOnce; // large ones
 };
 
 }

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <memory>
 #include <pango/pangocairo.h>
 #include <pango/pangofc-font.h>
+#include <span>
 #include <string_view>
 #include <utility>
 
@@ -64,6 +66,16 @@ std::string shownText(PangoLayout* layout, PangoLayoutLine* line)
     return std::string(shown);
 }
 
+/// Scripts whose letters stand by themselves. Where they join, glyphs overlap, and only their common outline has an
+/// even edge.
+bool isOfSeparateLetters(const PangoItem* item)
+{
+    constexpr GUnicodeScript scripts[] { G_UNICODE_SCRIPT_COMMON, G_UNICODE_SCRIPT_LATIN, G_UNICODE_SCRIPT_GREEK,
+        G_UNICODE_SCRIPT_CYRILLIC, G_UNICODE_SCRIPT_HAN, G_UNICODE_SCRIPT_HIRAGANA, G_UNICODE_SCRIPT_KATAKANA,
+        G_UNICODE_SCRIPT_HANGUL };
+    return std::ranges::find(scripts, static_cast<GUnicodeScript>(item->analysis.script)) != std::end(scripts);
+}
+
 PangoRectangle inkOf(PangoLayoutLine* line)
 {
     PangoRectangle ink;
@@ -120,9 +132,9 @@ std::vector<GlyphItem> partsByRun(const PangoGlyphItem* item, const char* text, 
 
 }
 
-PangoShapedText::PangoShapedText(
-    Handle<PangoLayout> layout, const TextBlock& block, std::vector<std::size_t> runEnds, double ascent, double descent)
-    : m_layout(std::move(layout)), m_runEnds(std::move(runEnds))
+PangoShapedText::PangoShapedText(Handle<PangoLayout> layout, const TextBlock& block, std::vector<std::size_t> runEnds,
+    double ascent, double descent, std::shared_ptr<GlyphMasks> glyphs)
+    : m_layout(std::move(layout)), m_glyphs(std::move(glyphs)), m_runEnds(std::move(runEnds))
 {
     setLines(block);
     const double lineHeight = block.runs.front().style.lineHeight;
@@ -167,6 +179,42 @@ void PangoShapedText::addOutlines(cairo_t* context, std::size_t line, std::size_
     }
 }
 
+/// Whether every glyph is a typeface's own, on the baseline and by itself: no box for a missing letter.
+bool PangoShapedText::hasPlainGlyphs() const
+{
+    const auto isPlain = [](const PangoGlyphInfo& info) {
+        return (info.glyph & PANGO_GLYPH_UNKNOWN_FLAG) == 0 && info.geometry.y_offset == 0;
+    };
+    for (const auto* line : linesOf(m_layout.get())) {
+        for (const auto* item : itemsOf(line)) {
+            const std::span glyphs(item->glyphs->glyphs, static_cast<std::size_t>(item->glyphs->num_glyphs));
+            if (item->y_offset != 0 || !isOfSeparateLetters(item->item)
+                || !PANGO_IS_CAIRO_FONT(item->item->analysis.font) || !std::ranges::all_of(glyphs, isPlain))
+                return false;
+        }
+    }
+    return true;
+}
+
+void PangoShapedText::addGlyphs(Mask& mask, std::size_t line, double scale, int baseline) const
+{
+    constexpr double places = 256;
+    int x = 0;
+    for (const auto* item : itemsOf(linesOf(m_layout.get()).at(line))) {
+        for (int i = 0; i < item->glyphs->num_glyphs; ++i) {
+            const auto& info = item->glyphs->glyphs[i];
+            const double at = (lines[line].x + points(x + info.geometry.x_offset)) * scale - mask.left;
+            const auto place = static_cast<int>(std::lround(at * places));
+            x += info.geometry.width;
+            if (info.glyph == PANGO_GLYPH_EMPTY)
+                continue;
+            const int pixel = place >> 8; // rounds down also what is negative
+            add(m_glyphs->find(item->item->analysis.font, info.glyph, scale, static_cast<unsigned>(place & 0xff)),
+                mask.coverage.get(), pixel, baseline - mask.top);
+        }
+    }
+}
+
 PangoShapedText::Mask PangoShapedText::drawnMask(double scale, std::size_t run) const
 {
     const auto all = linesOf(m_layout.get());
@@ -184,6 +232,13 @@ PangoShapedText::Mask PangoShapedText::drawnMask(double scale, std::size_t run) 
     Mask mask { nullptr, static_cast<int>(std::floor(left)) - 1, static_cast<int>(std::floor(top)) - 1 };
     mask.coverage.reset(cairo_image_surface_create(CAIRO_FORMAT_A8, static_cast<int>(std::ceil(right)) + 1 - mask.left,
         static_cast<int>(std::ceil(bottom)) + 1 - mask.top));
+    if (run == allRuns && hasPlainGlyphs()) {
+        cairo_surface_flush(mask.coverage.get());
+        for (std::size_t i = 0; i < all.size(); ++i)
+            addGlyphs(mask, i, scale, static_cast<int>(baseline(i)));
+        cairo_surface_mark_dirty(mask.coverage.get());
+        return mask;
+    }
     const CairoHandle context(cairo_create(mask.coverage.get()));
     for (std::size_t i = 0; i < all.size(); ++i) {
         cairo_identity_matrix(context.get());

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <vector>
 
+#include "OrvelPlatform/Drawing/GlyphMasks.h"
 #include "OrvelPlatform/Drawing/Handles.h"
 #include "OrvelPlatform/Views/TextSystem.h"
 
@@ -25,7 +27,7 @@ public:
 
     /// `runEnds` are byte offsets into the layout's text.
     PangoShapedText(Handle<_PangoLayout> layout, const TextBlock& block, std::vector<std::size_t> runEnds,
-        double ascent, double descent);
+        double ascent, double descent, std::shared_ptr<GlyphMasks> glyphs);
     ~PangoShapedText() override;
 
     /// The mask at a scale, of one run or of all together. Kept for the last scale asked for.
@@ -45,9 +47,12 @@ private:
     void setLines(const TextBlock& block);
     const Mask& maskOf(double scale, std::size_t run) const;
     Mask drawnMask(double scale, std::size_t run) const;
+    bool hasPlainGlyphs() const;
+    void addGlyphs(Mask& mask, std::size_t line, double scale, int baseline) const;
     void addOutlines(_cairo* context, std::size_t line, std::size_t run) const;
 
     Handle<_PangoLayout> m_layout;
+    std::shared_ptr<GlyphMasks> m_glyphs;
     std::vector<std::size_t> m_runEnds;
     std::vector<double> m_baselines; // a line each, from the top
     bool m_hasColorGlyphs = false;

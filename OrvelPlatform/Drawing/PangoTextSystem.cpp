@@ -18,7 +18,9 @@ namespace orvel {
 
 namespace {
 
-constexpr std::size_t mostKept = 1024;
+/// Paragraphs in one generation of what is kept: all that a few widgets show in a day.
+constexpr std::size_t mostKept = 512;
+constexpr std::size_t mostSets = 32; // ways to set one paragraph
 
 /// No picture shows more; what comes from outside may be of any length.
 constexpr std::size_t longestText = 16 * 1024;
@@ -39,6 +41,7 @@ struct Release {
     void operator()(PangoAttrList* attributes) const { pango_attr_list_unref(attributes); }
     void operator()(gchar* text) const { g_free(text); }
     void operator()(PangoFont* font) const { g_object_unref(font); }
+    void operator()(hb_font_t* font) const { hb_font_destroy(font); }
 };
 
 std::unique_ptr<PangoFontDescription, Release> description(const TextStyle& style)
@@ -150,6 +153,19 @@ void balance(PangoLayout* layout)
     pango_layout_set_wrap(layout, PANGO_WRAP_WORD_CHAR);
 }
 
+std::unique_ptr<PangoFont, Release> fontOf(PangoLayout* layout, const TextStyle& style)
+{
+    const auto* const run = pango_layout_get_line_readonly(layout, 0)->runs;
+    if (run) {
+        auto* const font = static_cast<PangoGlyphItem*>(run->data)->item->analysis.font;
+        const std::unique_ptr<PangoFontDescription, Release> found(pango_font_describe(font));
+        if (std::string_view(pango_font_description_get_family(found.get())) == nameOf(style.family))
+            return std::unique_ptr<PangoFont, Release>(PANGO_FONT(g_object_ref(font)));
+    }
+    auto* const context = pango_layout_get_context(layout);
+    return std::unique_ptr<PangoFont, Release>(pango_context_load_font(context, description(style).get()));
+}
+
 std::size_t mixed(std::size_t seed, std::size_t value)
 {
     constexpr std::size_t golden = 0x9e3779b97f4a7c15; // spreads the bits of small numbers
@@ -160,7 +176,7 @@ std::size_t mixed(std::size_t seed, std::size_t value)
 
 std::size_t PangoTextSystem::Hash::operator()(const TextBlock& block) const
 {
-    auto seed = static_cast<std::size_t>(block.lineLimit);
+    auto seed = static_cast<std::size_t>(block.direction);
     for (const auto& run : block.runs) {
         seed = mixed(seed, std::hash<std::string> {}(run.text));
         seed = mixed(seed, std::hash<double> {}(run.style.size + run.style.weight));
@@ -172,26 +188,34 @@ PangoTextSystem::PangoTextSystem(const std::filesystem::path& folder, FontScope 
 
 std::shared_ptr<const ShapedText> PangoTextSystem::shape(const TextBlock& block, double width)
 {
-    auto inOneLine = shapeOnce(block, infiniteLength);
-    return inOneLine->size.width <= width ? inOneLine : shapeOnce(block, width);
+    auto& kept = keptOf(block);
+    if (kept.inOneLine->size.width <= width)
+        return kept.inOneLine;
+    const auto fits = [&](const Set& set) {
+        return set.lineLimit == block.lineLimit && set.alignment == block.alignment && set.balanced == block.balanced
+            && set.took <= width && width <= set.offered;
+    };
+    if (const auto known = std::ranges::find_if(kept.sets, fits); known != kept.sets.end())
+        return known->text;
+    if (kept.sets.size() >= mostSets)
+        kept.sets.clear();
+    auto text = shapeAfresh(block, width);
+    kept.sets.push_back(
+        { block.lineLimit, block.alignment, block.balanced, std::min(text->size.width, width), width, text });
+    return text;
 }
 
-std::shared_ptr<const ShapedText> PangoTextSystem::shapeOnce(const TextBlock& block, double width)
+PangoTextSystem::Kept& PangoTextSystem::keptOf(const TextBlock& block)
 {
-    if (const auto known = m_kept.find(block); known != m_kept.end()) {
-        for (const auto& [took, offered, text] : known->second) {
-            if (took <= width && width <= offered)
-                return text;
-        }
-    }
-    if (m_keptCount >= mostKept) {
-        m_kept.clear();
-        m_keptCount = 0;
-    }
-    auto text = shapeAfresh(block, width);
-    m_kept[block].push_back({ std::min(text->size.width, width), width, text });
-    ++m_keptCount;
-    return text;
+    if (const auto known = m_kept.find(block); known != m_kept.end())
+        return known->second;
+    if (m_kept.size() >= mostKept)
+        m_older = std::exchange(m_kept, {});
+    if (const auto known = m_older.find(block); known != m_older.end())
+        return m_kept.insert(m_older.extract(known)).position->second;
+    // A line by itself is the same for every limit and alignment.
+    const TextBlock inOneLine { .runs = block.runs, .direction = block.direction };
+    return m_kept.emplace(inOneLine, Kept { shapeAfresh(inOneLine, infiniteLength), {} }).first->second;
 }
 
 std::shared_ptr<const ShapedText> PangoTextSystem::shapeAfresh(const TextBlock& block, double width)
@@ -203,25 +227,28 @@ std::shared_ptr<const ShapedText> PangoTextSystem::shapeAfresh(const TextBlock& 
     if (block.balanced && std::isfinite(width))
         balance(layout.get());
     const auto& style = block.runs.front().style;
-    const auto [ascent, descent] = heights(style);
+    const auto [ascent, descent] = heights(style, layout.get());
     return std::make_shared<const PangoShapedText>(
-        std::move(layout), block, std::move(paragraph.runEnds), ascent * style.size, descent * style.size);
+        std::move(layout), block, std::move(paragraph.runEnds), ascent * style.size, descent * style.size, m_glyphs);
 }
 
-PangoTextSystem::Heights PangoTextSystem::heights(const TextStyle& style)
+PangoTextSystem::Heights PangoTextSystem::heights(const TextStyle& style, PangoLayout* layout)
 {
     const std::tuple face(style.family, style.weight, style.italic);
     if (const auto found = m_heights.find(face); found != m_heights.end())
         return found->second;
-    constexpr double size = 1000;
-    auto large = style;
-    large.size = size;
-    auto* const context = m_fonts.own(LayoutDirection::leftToRight);
-    const std::unique_ptr<PangoFont, Release> font(pango_context_load_font(context, description(large).get()));
+    // The typeface in its own units. The text's own font will do; another would have to be found and opened, each in
+    // two threads of the library.
+    const auto font = fontOf(layout, style);
     hb_font_extents_t extents {};
-    if (font)
-        hb_font_get_h_extents(pango_font_get_hb_font(font.get()), &extents);
-    const Heights heights { extents.ascender / (size * PANGO_SCALE), -extents.descender / (size * PANGO_SCALE) };
+    double unitsInSize = 1;
+    if (font) {
+        auto* const typeface = hb_font_get_face(pango_font_get_hb_font(font.get()));
+        const std::unique_ptr<hb_font_t, Release> own(hb_font_create(typeface));
+        hb_font_get_h_extents(own.get(), &extents);
+        unitsInSize = hb_face_get_upem(typeface);
+    }
+    const Heights heights { extents.ascender / unitsInSize, -extents.descender / unitsInSize };
     m_heights.emplace(face, heights);
     return heights;
 }

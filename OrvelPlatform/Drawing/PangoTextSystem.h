@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "OrvelPlatform/Drawing/FontMaps.h"
+#include "OrvelPlatform/Drawing/GlyphMasks.h"
 #include "OrvelPlatform/Views/TextSystem.h"
 
 namespace orvel {
@@ -20,27 +21,46 @@ public:
     std::shared_ptr<const ShapedText> shape(const TextBlock& block, double width) override;
 
 private:
+    /// What is kept is found by the words and their styles; how they were set is told apart there.
     struct Hash {
+        using is_transparent = void;
         std::size_t operator()(const TextBlock& block) const;
     };
+    struct SameWords {
+        using is_transparent = void;
+        bool operator()(const TextBlock& a, const TextBlock& b) const
+        {
+            return a.direction == b.direction && a.runs == b.runs;
+        }
+    };
     /// A paragraph's lines are the same in every width from the one that they took to the one that was offered.
-    struct Kept {
+    struct Set {
+        int lineLimit;
+        TextAlignment alignment;
+        bool balanced;
         double took;
         double offered;
         std::shared_ptr<const ShapedText> text;
+    };
+    struct Kept {
+        std::shared_ptr<const ShapedText> inOneLine;
+        std::vector<Set> sets; // narrower
     };
     struct Heights {
         double ascent; // of a font of size 1
         double descent;
     };
 
-    std::shared_ptr<const ShapedText> shapeOnce(const TextBlock& block, double width);
+    using KeptTexts = std::unordered_map<TextBlock, Kept, Hash, SameWords>;
+
+    Kept& keptOf(const TextBlock& block);
     std::shared_ptr<const ShapedText> shapeAfresh(const TextBlock& block, double width);
-    Heights heights(const TextStyle& style);
+    Heights heights(const TextStyle& style, _PangoLayout* layout);
 
     FontMaps m_fonts;
-    std::unordered_map<TextBlock, std::vector<Kept>, Hash> m_kept;
-    std::size_t m_keptCount = 0;
+    std::shared_ptr<GlyphMasks> m_glyphs = std::make_shared<GlyphMasks>();
+    KeptTexts m_kept;
+    KeptTexts m_older; // the generation before: what is not asked for again goes with it
     std::map<std::tuple<FontFamily, int, bool>, Heights> m_heights;
 };
 

@@ -65,14 +65,23 @@ struct Release {
     void operator()(libdeflate_compressor* compressor) const { libdeflate_free_compressor(compressor); }
 };
 
-std::expected<std::string, Fault> packed(const std::vector<Byte>& rows)
+/// Bytes in memory that nobody clears: what packing does not use takes none.
+struct Buffer {
+    std::unique_ptr<char[]> bytes;
+    std::size_t size;
+
+    explicit Buffer(std::size_t itsSize) : bytes(std::make_unique_for_overwrite<char[]>(itsSize)), size(itsSize) { }
+    std::string_view view() const { return { bytes.get(), size }; }
+};
+
+std::expected<Buffer, Fault> packed(const std::vector<Byte>& rows)
 {
     constexpr int fastest = 1;
     const std::unique_ptr<libdeflate_compressor, Release> compressor(libdeflate_alloc_compressor(fastest));
     if (!compressor)
         return std::unexpected(Fault { {}, "there is not enough memory to pack the picture" });
-    std::string data(libdeflate_zlib_compress_bound(compressor.get(), rows.size()), '\0');
-    data.resize(libdeflate_zlib_compress(compressor.get(), rows.data(), rows.size(), data.data(), data.size()));
+    Buffer data(libdeflate_zlib_compress_bound(compressor.get(), rows.size()));
+    data.size = libdeflate_zlib_compress(compressor.get(), rows.data(), rows.size(), data.bytes.get(), data.size);
     return data;
 }
 
@@ -92,7 +101,7 @@ std::expected<std::string, Fault> pngFile(std::span<const std::uint32_t> pixels,
     header += { 8, 6, 0, 0, 0 }; // eight bits, red green blue and alpha; the only ways of packing, filtering and order
     appendChunk(file, "IHDR", header);
     appendChunk(file, "sRGB", std::string_view("\0", 1));
-    appendChunk(file, "IDAT", *data);
+    appendChunk(file, "IDAT", data->view());
     appendChunk(file, "IEND", {});
     return file;
 }

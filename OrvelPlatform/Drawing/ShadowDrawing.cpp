@@ -81,17 +81,6 @@ SurfaceHandle blurredShape(
     return surface;
 }
 
-void add(SurfaceKey& key, const Outline& outline)
-{
-    key.add(static_cast<double>(outline.index()));
-    if (const auto* rounded = std::get_if<RoundedRectangle>(&outline))
-        key.add(rounded->radius);
-    if (const auto* arc = std::get_if<Arc>(&outline))
-        key.add(arc->start).add(arc->sweep);
-    if (const auto* ring = std::get_if<Ring>(&outline))
-        key.add(ring->width);
-}
-
 }
 
 void drawShadow(const Sources& sources, cairo_t* context, const PlacedOutline& outline, const Shadow& shadow)
@@ -114,7 +103,7 @@ void drawShadow(const Sources& sources, cairo_t* context, const PlacedOutline& o
     const auto origin = inMask(outline.in).origin();
     const auto box = pixelsAround(inMask(reachOf(outline, shadow)));
     SurfaceKey key("shadow");
-    add(key, outline.outline);
+    addTo(key, outline.outline);
     key.add(outline.in.width).add(outline.in.height).add(origin.x - box.left).add(origin.y - box.top).add(scale);
     key.add(shadow.inset ? 1 : 0).add(shadow.x).add(shadow.y).add(shadow.blur).add(shadow.spread);
     const auto mask = sources.kept.find(key, [&] { return blurredShape(outline, shadow, box, origin, scale); });

@@ -38,18 +38,16 @@ Pattern patternOf(const RadialGradient& gradient, const Rect& in)
     return Pattern(cairo_pattern_create_radial(x, y, 0, x, y, gradient.radius));
 }
 
-SurfaceKey keyOf(const LinearGradient& gradient)
+void addTo(SurfaceKey& key, const std::vector<GradientStop>& stops)
 {
-    SurfaceKey key("linear");
-    key.add(gradient.start.x).add(gradient.start.y).add(gradient.end.x).add(gradient.end.y);
-    return key;
+    for (const auto& [location, color] : stops)
+        key.add(location).add(color.red).add(color.green).add(color.blue).add(color.alpha);
 }
 
-SurfaceKey keyOf(const RadialGradient& gradient)
+void addTo(SurfaceKey& key, const RadialGradient& gradient)
 {
-    SurfaceKey key("radial");
-    key.add(gradient.center.x).add(gradient.center.y).add(gradient.radius);
-    return key;
+    key.add(std::string_view("radial")).add(gradient.center.x).add(gradient.center.y).add(gradient.radius);
+    addTo(key, gradient.stops);
 }
 
 void paintPixels(const PixelGrid& grid, const LinearGradient& gradient, double)
@@ -69,14 +67,23 @@ struct GradientPlace {
     double scale;
 };
 
+GradientPlace placeOf(cairo_t* context, const PaintedArea& area)
+{
+    return { inPixels(context, area.rect), pixelsAround(inPixels(context, area.rect.insetBy(-area.margin))),
+        scaleOf(context) };
+}
+
+cairo_format_t formatOf(const std::vector<GradientStop>& stops)
+{
+    const bool isOpaque = std::ranges::all_of(stops, [](const GradientStop& stop) { return stop.color.alpha >= 1; });
+    return isOpaque ? CAIRO_FORMAT_RGB24 : CAIRO_FORMAT_ARGB32;
+}
+
 template <typename Gradient>
-SurfaceHandle surfaceOf(const Gradient& gradient, const GradientPlace& place)
+SurfaceHandle surfaceOf(const Gradient& gradient, const GradientPlace& place, cairo_format_t format)
 {
     const auto& [painted, box, scale] = place;
-    const bool isOpaque =
-        std::ranges::all_of(gradient.stops, [](const GradientStop& stop) { return stop.color.alpha >= 1; });
-    SurfaceHandle surface(
-        cairo_image_surface_create(isOpaque ? CAIRO_FORMAT_RGB24 : CAIRO_FORMAT_ARGB32, box.width, box.height));
+    SurfaceHandle surface(cairo_image_surface_create(format, box.width, box.height));
     auto* const pixels = reinterpret_cast<std::uint32_t*>(cairo_image_surface_get_data(surface.get()));
     const auto width = static_cast<std::size_t>(cairo_image_surface_get_stride(surface.get())) / sizeof *pixels;
     paintPixels({ std::span(pixels, width * static_cast<std::size_t>(box.height)), width,
@@ -89,8 +96,7 @@ SurfaceHandle surfaceOf(const Gradient& gradient, const GradientPlace& place)
 template <typename Gradient>
 bool setGradient(const Sources& sources, cairo_t* context, const Gradient& gradient, const PaintedArea& area)
 {
-    const GradientPlace place { inPixels(context, area.rect),
-        pixelsAround(inPixels(context, area.rect.insetBy(-area.margin))), scaleOf(context) };
+    const auto place = placeOf(context, area);
     const auto& [painted, box, scale] = place;
     if (gradient.stops.empty() || box.width < 1 || box.height < 1)
         return false;
@@ -100,12 +106,11 @@ bool setGradient(const Sources& sources, cairo_t* context, const Gradient& gradi
         cairo_set_source(context, pattern.get());
         return true;
     }
-    auto key = keyOf(gradient);
-    for (const auto& [location, color] : gradient.stops)
-        key.add(location).add(color.red).add(color.green).add(color.blue).add(color.alpha);
+    SurfaceKey key("gradient");
+    addTo(key, gradient);
     key.add(painted.x - box.left).add(painted.y - box.top).add(painted.width).add(painted.height);
     key.add(box.width).add(box.height).add(scale);
-    const auto surface = sources.kept.find(key, [&] { return surfaceOf(gradient, place); });
+    const auto surface = sources.kept.find(key, [&] { return surfaceOf(gradient, place, formatOf(gradient.stops)); });
     const PixelScope pixels(context);
     cairo_set_source_surface(context, surface.get(), box.left, box.top);
     cairo_pattern_set_filter(cairo_get_source(context), CAIRO_FILTER_NEAREST);
@@ -139,6 +144,24 @@ bool setTexture(const Sources& sources, cairo_t* context, const Texture& texture
     return true;
 }
 
+}
+
+void addTo(SurfaceKey& key, const LinearGradient& gradient)
+{
+    key.add(std::string_view("linear"))
+        .add(gradient.start.x)
+        .add(gradient.start.y)
+        .add(gradient.end.x)
+        .add(gradient.end.y);
+    addTo(key, gradient.stops);
+}
+
+SurfaceHandle gradientSurface(cairo_t* context, const LinearGradient& gradient, const PaintedArea& area)
+{
+    const auto place = placeOf(context, area);
+    auto surface = surfaceOf(gradient, place, CAIRO_FORMAT_ARGB32);
+    cairo_surface_set_device_offset(surface.get(), -place.box.left, -place.box.top);
+    return surface;
 }
 
 bool setSource(const Sources& sources, cairo_t* context, const Paint& paint, const PaintedArea& area)

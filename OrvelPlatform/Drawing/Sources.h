@@ -24,6 +24,13 @@ struct PaintedArea {
     double margin;
 };
 
+/// Adds a gradient without the rectangle that it is laid out on.
+void addTo(SurfaceKey& key, const LinearGradient& gradient);
+
+/// A gradient's pixels on an area and what lies round it, without any edge. The surface knows where it lies among the
+/// context's.
+SurfaceHandle gradientSurface(_cairo* context, const LinearGradient& gradient, const PaintedArea& area);
+
 /// Makes a paint the context's source; false where it paints nothing.
 bool setSource(const Sources& sources, _cairo* context, const Paint& paint, const PaintedArea& area);
 

@@ -8,6 +8,8 @@ namespace orvel {
 
 /// A symbol by its name, in a square. Icons are decoration: the words beside them carry the meaning.
 struct Icon {
+    static constexpr bool isQuicklyMeasured = true;
+
     std::string name;
     std::string fallback; // shown where nothing is known by `name`
     double size = 16; // points

@@ -1,11 +1,15 @@
 #include "OrvelPlatform/Views/MeasureMemory.h"
 
 #include <algorithm>
+#include <bit>
 #include <functional>
 
 namespace orvel {
 
 namespace {
+
+constexpr std::size_t answersInOneWidget = 256;
+constexpr std::size_t roomForThem = answersInOneWidget * 128;
 
 std::size_t mixed(std::size_t seed, std::size_t value)
 {
@@ -15,7 +19,7 @@ std::size_t mixed(std::size_t seed, std::size_t value)
 
 std::size_t hashOf(const ProposedLength& length)
 {
-    return std::hash<double> {}(length.value_or(-1));
+    return std::bit_cast<std::size_t>(length.value_or(-1) + 0.0); // both zeros are one
 }
 
 }
@@ -26,6 +30,11 @@ std::size_t MeasureMemory::Hash::operator()(const Question& question) const
     seed = mixed(seed, question.environment);
     seed = mixed(seed, hashOf(question.proposed.width));
     return mixed(seed, hashOf(question.proposed.height));
+}
+
+MeasureMemory::MeasureMemory() : m_room(roomForThem)
+{
+    m_answers.reserve(answersInOneWidget);
 }
 
 std::size_t MeasureMemory::index(const Environment& environment)

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory_resource>
 #include <unordered_map>
 #include <vector>
 
@@ -16,6 +17,8 @@ namespace orvel {
 /// not used again.
 class MeasureMemory {
 public:
+    MeasureMemory();
+
     Extent measure(const View& view, const Proposal& proposed, const Environment& environment);
     View body(const View& view, const Environment& environment);
 
@@ -40,9 +43,10 @@ private:
 
     std::size_t index(const Environment& environment);
 
+    std::pmr::monotonic_buffer_resource m_room; // everything goes at once, with the pass
     std::vector<Environment> m_environments;
-    std::unordered_map<Question, Answer, Hash> m_answers;
-    std::unordered_map<Question, Body, Hash> m_bodies;
+    std::pmr::unordered_map<Question, Answer, Hash> m_answers { &m_room };
+    std::pmr::unordered_map<Question, Body, Hash> m_bodies { &m_room };
 };
 
 /// The memory of the pass that is going on; null outside one. It lives as long as the pass: a view does not keep an

@@ -8,6 +8,8 @@ namespace orvel {
 
 /// An outline filled, or stroked where it has a stroke. It takes all the room it is offered and none by itself.
 struct Shape {
+    static constexpr bool isQuicklyMeasured = true;
+
     Outline outline;
     Paint paint;
     std::optional<Stroke> stroke = std::nullopt;

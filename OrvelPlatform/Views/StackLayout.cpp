@@ -2,23 +2,12 @@
 
 #include <algorithm>
 #include <cmath>
-#include <map>
 #include <span>
+#include <tuple>
 
 namespace orvel {
 
 namespace {
-
-/// Those of one priority, by index.
-using Group = std::vector<std::size_t>;
-
-std::map<double, Group, std::greater<>> groups(const std::vector<StackLayout::Child>& children)
-{
-    std::map<double, Group, std::greater<>> byPriority;
-    for (std::size_t i = 0; i < children.size(); ++i)
-        byPriority[children[i].view.stackTraits().priority].push_back(i);
-    return byPriority;
-}
 
 struct Range {
     double least;
@@ -27,33 +16,43 @@ struct Range {
     double within(double length) const { return std::clamp(length, least, std::max(least, most)); }
 };
 
-double lengthAt(double level, std::span<const Range> ranges)
+/// A child that is still to be served.
+struct Waiting {
+    Range range;
+    double priority;
+    StackLayout::Child* child;
+};
+
+double lengthAt(double level, std::span<const Waiting> waiting)
 {
     double length = 0;
-    for (const auto& range : ranges)
-        length += range.within(level);
+    for (const auto& each : waiting)
+        length += each.range.within(level);
     return length;
 }
 
 /// The length that everybody is given, within their own limits, when together they fill what is available. Between two
 /// limits the sum grows in proportion to the number of those who take part.
-double equalShare(double available, std::span<const Range> ranges)
+double equalShare(double available, std::span<const Waiting> waiting)
 {
+    if (waiting.size() == 1)
+        return waiting.front().range.within(available);
     std::vector<double> limits { 0 };
-    for (const auto& range : ranges) {
+    limits.reserve(2 * waiting.size() + 1);
+    for (const auto& [range, priority, child] : waiting) {
         limits.push_back(range.least);
         limits.push_back(range.most);
     }
     std::ranges::sort(limits);
-    const auto above = std::ranges::find_if(limits, [&](double limit) { return lengthAt(limit, ranges) > available; });
+    const auto above = std::ranges::find_if(limits, [&](double limit) { return lengthAt(limit, waiting) > available; });
     if (above == limits.begin())
         return 0;
     if (above == limits.end())
         return limits.back();
     const double below = *std::prev(above);
-    const auto sharing =
-        std::ranges::count_if(ranges, [&](const Range& r) { return r.least <= below && r.most > below; });
-    return below + (available - lengthAt(below, ranges)) / static_cast<double>(sharing);
+    const auto sharing = std::ranges::count_if(
+        waiting, [&](const Waiting& each) { return each.range.least <= below && each.range.most > below; });
+    return below + (available - lengthAt(below, waiting)) / static_cast<double>(sharing);
 }
 
 /// What is left of a length; of an infinite one everything.
@@ -65,10 +64,8 @@ double remaining(double available, double taken)
 }
 
 StackLayout::StackLayout(Axis axis, double spacing, const std::vector<View>& children)
-    : m_axis(axis), m_spacing(spacing)
+    : m_axis(axis), m_spacing(spacing), m_children(children)
 {
-    std::ranges::copy_if(
-        children, std::back_inserter(m_children), [](const View& child) { return !child.isNothing(); });
 }
 
 Extent StackLayout::measured(
@@ -90,25 +87,27 @@ double StackLayout::lengthOf(
 void StackLayout::share(
     std::vector<Child>& children, double available, ProposedLength across, const Environment& environment) const
 {
-    std::vector<Range> ranges;
-    for (const auto& child : children)
-        ranges.push_back({ lengthOf(child.view, 0, across, environment),
-            lengthOf(child.view, infiniteLength, across, environment) });
-
+    std::vector<Waiting> waiting;
+    waiting.reserve(children.size());
     double reserved = 0; // for the priorities that are still to come
-    for (const auto& range : ranges)
+    for (auto& child : children) {
+        const Range range { lengthOf(child.view, 0, across, environment),
+            lengthOf(child.view, infiniteLength, across, environment) };
+        waiting.push_back({ range, child.view.stackTraits().priority, &child });
         reserved += range.least;
-    for (auto& [priority, group] : groups(children)) {
-        for (const auto i : group)
-            reserved -= ranges[i].least;
-        std::ranges::stable_sort(group, {}, [&](std::size_t i) { return ranges[i].flexibility(); });
-        std::vector<Range> unserved;
-        for (const auto i : group)
-            unserved.push_back(ranges[i]);
-        for (std::size_t served = 0; served < group.size(); ++served) {
-            const std::span rest(unserved.begin() + static_cast<std::ptrdiff_t>(served), unserved.end());
-            const double offered = rest.front().within(equalShare(remaining(available, reserved), rest));
-            auto& child = children[group[served]];
+    }
+    std::ranges::sort(waiting, [](const Waiting& a, const Waiting& b) {
+        return std::tuple(-a.priority, a.range.flexibility(), a.child)
+            < std::tuple(-b.priority, b.range.flexibility(), b.child);
+    });
+    for (std::size_t first = 0; first < waiting.size();) {
+        std::size_t end = first;
+        for (; end < waiting.size() && waiting[end].priority == waiting[first].priority; ++end)
+            reserved -= waiting[end].range.least;
+        for (; first < end; ++first) {
+            const auto rest = std::span(waiting).subspan(first, end - first);
+            const double offered = rest.front().range.within(equalShare(remaining(available, reserved), rest));
+            auto& child = *waiting[first].child;
             child.extent = measured(child.view, offered, across, environment);
             available = remaining(available, along(child.extent.size));
         }
@@ -118,8 +117,11 @@ void StackLayout::share(
 std::vector<StackLayout::Child> StackLayout::served(const Proposal& proposed, const Environment& environment) const
 {
     std::vector<Child> children;
-    for (const auto& view : m_children)
-        children.push_back({ view, {}, 0 });
+    children.reserve(m_children.size());
+    for (const auto& view : m_children) {
+        if (!view.isNothing())
+            children.push_back({ view, {}, 0 });
+    }
     if (children.empty())
         return children;
 

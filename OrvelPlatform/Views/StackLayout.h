@@ -17,6 +17,7 @@ public:
         double offset; // along the axis
     };
 
+    /// The children outlive it.
     StackLayout(Axis axis, double spacing, const std::vector<View>& children);
 
     /// The children with their extents for an offered size, in order, without those that are nothing.
@@ -31,7 +32,7 @@ private:
 
     Axis m_axis;
     double m_spacing;
-    std::vector<View> m_children;
+    const std::vector<View>& m_children;
 };
 
 }

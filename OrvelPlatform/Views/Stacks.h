@@ -34,6 +34,8 @@ struct VStack {
 
 /// Takes what room everybody else in a stack leaves, at least `least`.
 struct Spacer {
+    static constexpr bool isQuicklyMeasured = true;
+
     double least = 0;
 
     Extent measure(const Proposal& proposed, const Environment& environment) const;

@@ -18,7 +18,7 @@ Extent View::measure(const Proposal& proposed, const Environment& environment) c
 {
     if (!m_node)
         return {};
-    auto* const kept = memory(environment);
+    auto* const kept = m_node->isQuicklyMeasured() ? nullptr : memory(environment);
     return kept ? kept->measure(*this, proposed, environment) : measureAfresh(proposed, environment);
 }
 

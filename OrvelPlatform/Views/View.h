@@ -123,6 +123,7 @@ private:
         virtual Extent measure(const Proposal& proposed, const Environment& environment) const = 0;
         virtual void draw(Canvas& canvas, const Rect& in, const Environment& environment) const = 0;
         virtual StackTraits stackTraits() const = 0;
+        virtual bool isQuicklyMeasured() const = 0;
     };
 
     template <typename T>
@@ -172,6 +173,16 @@ struct View::NodeOf final : View::Node {
             return view.stackTraits();
         else
             return {};
+    }
+
+    /// Whether a memory of its extents would cost more than asking again: its content's memory serves a wrapper, and
+    /// some say so themselves.
+    bool isQuicklyMeasured() const override
+    {
+        if constexpr (requires { T::isQuicklyMeasured; })
+            return T::isQuicklyMeasured;
+        else
+            return WrappingView<T> && !MeasuringView<T>;
     }
 
     T view;

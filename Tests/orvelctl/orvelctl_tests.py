@@ -275,7 +275,7 @@ class OrvelctlTests(unittest.TestCase):
         self.assertEqual((result.returncode, result.stderr), (1, b""))
         lines = result.stdout.decode().splitlines()
         self.assertIn("nl: Widgets.until: “until %@”: “tot %lld” has %lld for value 1, which is %@", lines)
-        self.assertIn("nl: Widgets.breatheName: “Breathe Now”: is missing", lines)
+        self.assertIn("nl: Widgets.ends: “ends %@”: is missing", lines)
         self.assertFalse([line for line in lines if "Focus now" in line])
         answer = json.loads(call("copy", "check", "--table", path + ".mo", "--json").stdout)
         self.assertEqual(len(answer), len(lines))

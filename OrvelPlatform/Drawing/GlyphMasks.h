@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <unordered_map>
+
+#include "OrvelPlatform/Drawing/Handles.h"
+
+struct _PangoFont;
+
+namespace orvel {
+
+/// Glyphs as coverage, drawn once for each place within a pixel. A text that differs from one before in a few letters,
+/// as a countdown does from minute to minute, is put together from what is there.
+class GlyphMasks {
+public:
+    /// Device pixels; the origin is the glyph's, on the baseline.
+    struct Mask {
+        SurfaceHandle coverage; // null: nothing is seen
+        int left;
+        int top;
+    };
+
+    GlyphMasks();
+    ~GlyphMasks();
+
+    /// `place` is where the origin stands within its pixel, from 0 to 255 of 256. Valid until the next call.
+    const Mask& find(_PangoFont* font, std::uint32_t glyph, double scale, unsigned place);
+
+private:
+    struct Key {
+        std::uint32_t glyph;
+        unsigned place;
+        double scale;
+        bool operator==(const Key&) const = default;
+    };
+    struct Hash {
+        std::size_t operator()(const Key& key) const;
+    };
+    struct Font; // keeps its font, so that no other takes its address
+
+    std::unordered_map<_PangoFont*, std::unique_ptr<Font>> m_fonts;
+    std::size_t m_count = 0;
+};
+
+/// Adds a mask to another at a place in it. Where both cover a pixel the sum counts, at most all of it.
+void add(const GlyphMasks::Mask& glyph, _cairo_surface* to, int x, int y);
+
+}
