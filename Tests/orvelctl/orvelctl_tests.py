@@ -276,7 +276,7 @@ class OrvelctlTests(unittest.TestCase):
         lines = result.stdout.decode().splitlines()
         self.assertIn("nl: Widgets.until: “until %@”: “tot %lld” has %lld for value 1, which is %@", lines)
         self.assertIn("nl: Widgets.ends: “ends %@”: is missing", lines)
-        self.assertFalse([line for line in lines if "Focus now" in line])
+        self.assertFalse([line for line in lines if "“Focus now”" in line])
         answer = json.loads(call("copy", "check", "--table", path + ".mo", "--json").stdout)
         self.assertEqual(len(answer), len(lines))
         self.assertIn({"language": "nl", "members": ["Widgets.until"], "key": "until %@", "form": "tot %lld",
