@@ -4,6 +4,7 @@
 #include "OrvelPlatform/Views/Primitives.h"
 #include "OrvelWidgetsUI/Drawn/WidgetBreatheLabel.h"
 #include "OrvelWidgetsUI/Drawn/WidgetFigure.h"
+#include "OrvelWidgetsUI/Drawn/WidgetFrame.h"
 #include "OrvelWidgetsUI/Drawn/WidgetHairline.h"
 #include "OrvelWidgetsUI/Drawn/WidgetHeading.h"
 #include "OrvelWidgetsUI/Drawn/WidgetPaint.h"
@@ -81,24 +82,20 @@ View breathe(const LargeWidget& widget)
 
 View LargeWidget::body(const Environment& environment) const
 {
-    constexpr double sides = 18, topAndBottom = 16;
     const View hairline = WidgetHairline { look };
-    return Element {
-        .role = ElementRole::text,
-        .label = content.sentence,
-        .content = Padding {
-            .insets = Insets::sides(sides, topAndBottom),
-            .content = VStack {
-                .alignment = HorizontalAlignment::leading,
-                .spacing = spacing,
-                .children = {
-                    headerGroup(*this),
-                    hairline,
-                    figures(*this),
-                    hairline,
-                    week(*this, environment),
-                    breathe(*this),
-                },
+    return WidgetFrame {
+        .size = WidgetSize::large,
+        .sentence = content.sentence,
+        .content = VStack {
+            .alignment = HorizontalAlignment::leading,
+            .spacing = spacing,
+            .children = {
+                headerGroup(*this),
+                hairline,
+                figures(*this),
+                hairline,
+                week(*this, environment),
+                breathe(*this),
             },
         },
     };

@@ -4,6 +4,7 @@
 #include "OrvelPlatform/Views/Primitives.h"
 #include "OrvelWidgetsUI/Drawn/WidgetBreatheLabel.h"
 #include "OrvelWidgetsUI/Drawn/WidgetFigure.h"
+#include "OrvelWidgetsUI/Drawn/WidgetFrame.h"
 #include "OrvelWidgetsUI/Drawn/WidgetHairline.h"
 #include "OrvelWidgetsUI/Drawn/WidgetHeading.h"
 #include "OrvelWidgetsUI/Drawn/WidgetProgressBar.h"
@@ -41,7 +42,7 @@ View figures(const MediumWidget& widget)
 
 View MediumWidget::body(const Environment&) const
 {
-    constexpr double sides = 18, topAndBottom = 16, spacing = 14;
+    constexpr double spacing = 14;
     constexpr double leastAboveFoot = 6; // with four lines of text just this is left
     const View left = Frame {
         .width = FrameLength::filling(),
@@ -53,8 +54,9 @@ View MediumWidget::body(const Environment&) const
                 .children = { Priority { 1, WidgetHeading { content, look } }, Spacer { leastAboveFoot }, foot(*this) },
             },
     };
-    return Padding {
-        .insets = Insets::sides(sides, topAndBottom),
+    return WidgetFrame {
+        .size = WidgetSize::medium,
+        .sentence = {},
         .content = HStack { .spacing = spacing, .children = { left, figures(*this) } },
     };
 }

@@ -2,6 +2,7 @@
 
 #include "OrvelPlatform/Views/Primitives.h"
 #include "OrvelWidgetsUI/Drawn/PartedText.h"
+#include "OrvelWidgetsUI/Drawn/WidgetFrame.h"
 #include "OrvelWidgetsUI/Drawn/WidgetKicker.h"
 #include "OrvelWidgetsUI/Drawn/WidgetOrbWithPool.h"
 #include "OrvelWidgetsUI/Drawn/WidgetPaint.h"
@@ -50,23 +51,18 @@ View texts(const SmallWidget& widget, const Environment& environment)
 
 View SmallWidget::body(const Environment& environment) const
 {
-    constexpr double inset = 16;
-    return Element {
-        .role = ElementRole::text,
-        .label = content.sentence,
+    return WidgetFrame {
+        .size = WidgetSize::small,
+        .sentence = content.sentence,
         .content =
-            Padding {
-                .insets = Insets::all(inset),
+            Frame {
+                .width = FrameLength::filling(),
+                .height = FrameLength::filling(),
+                .alignment = Alignment::topLeading,
                 .content =
-                    Frame {
-                        .width = FrameLength::filling(),
-                        .height = FrameLength::filling(),
-                        .alignment = Alignment::topLeading,
-                        .content =
-                            VStack {
-                                .alignment = HorizontalAlignment::leading,
-                                .children = { slot(*this), Spacer {}, Priority { 1, texts(*this, environment) } },
-                            },
+                    VStack {
+                        .alignment = HorizontalAlignment::leading,
+                        .children = { slot(*this), Spacer {}, Priority { 1, texts(*this, environment) } },
                     },
             },
     };
