@@ -30,7 +30,7 @@ TextureTiles tilesIn(const fs::path& folder)
     std::error_code error;
     for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
         const auto bytes = readFile(entry->path(), longestResource);
-        auto tile = bytes ? textureTile(*bytes) : std::unexpected(bytes.error());
+        auto tile = bytes ? TextureTile::fromPgm(*bytes) : std::unexpected(bytes.error());
         if (tile)
             tiles.emplace(entry->path().stem().string(), *std::move(tile));
     }

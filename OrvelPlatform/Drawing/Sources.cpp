@@ -117,25 +117,22 @@ bool setGradient(const Sources& sources, cairo_t* context, const Gradient& gradi
     return true;
 }
 
-SurfaceHandle fadedTile(cairo_surface_t* tile, double opacity)
+bool setColor(cairo_t* context, const Color& color)
 {
-    SurfaceHandle faded(cairo_image_surface_create(
-        CAIRO_FORMAT_ARGB32, cairo_image_surface_get_width(tile), cairo_image_surface_get_height(tile)));
-    const CairoHandle context(cairo_create(faded.get()));
-    cairo_set_source_surface(context.get(), tile, 0, 0);
-    cairo_paint_with_alpha(context.get(), opacity);
-    return faded;
+    cairo_set_source_rgba(context, color.red, color.green, color.blue, color.alpha);
+    return color.alpha > 0;
 }
 
 /// A tile's pixel is a device pixel, so that it is as fine as can be seen.
 bool setTexture(const Sources& sources, cairo_t* context, const Texture& texture, const Rect& in)
 {
+    const auto& ground = texture.ground;
     const auto found = sources.textures.find(texture.name);
-    if (found == sources.textures.end() || texture.opacity <= 0)
-        return false;
+    if (found == sources.textures.end())
+        return setColor(context, ground);
     SurfaceKey key("texture");
-    key.add(texture.name).add(texture.opacity);
-    const auto tile = sources.kept.find(key, [&] { return fadedTile(found->second.get(), texture.opacity); });
+    key.add(texture.name).add(texture.opacity).add(ground.red).add(ground.green).add(ground.blue).add(ground.alpha);
+    const auto tile = sources.kept.find(key, [&] { return found->second.on(ground, texture.opacity); });
     const auto corner = inPixels(context, in);
     const PixelScope pixels(context);
     cairo_set_source_surface(context, tile.get(), std::round(corner.x), std::round(corner.y));
@@ -167,10 +164,7 @@ SurfaceHandle gradientSurface(cairo_t* context, const LinearGradient& gradient, 
 bool setSource(const Sources& sources, cairo_t* context, const Paint& paint, const PaintedArea& area)
 {
     return std::visit(Match {
-                          [&](const Color& color) {
-                              cairo_set_source_rgba(context, color.red, color.green, color.blue, color.alpha);
-                              return color.alpha > 0;
-                          },
+                          [&](const Color& color) { return setColor(context, color); },
                           [&](const LinearGradient& gradient) { return setGradient(sources, context, gradient, area); },
                           [&](const RadialGradient& gradient) { return setGradient(sources, context, gradient, area); },
                           [&](const Texture& texture) { return setTexture(sources, context, texture, area.rect); },

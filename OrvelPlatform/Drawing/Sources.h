@@ -1,15 +1,15 @@
 #pragma once
 
 #include <map>
-#include <memory>
 #include <string>
 
 #include "OrvelPlatform/Drawing/KeptSurfaces.h"
+#include "OrvelPlatform/Drawing/TextureTile.h"
 #include "OrvelPlatform/Views/Paint.h"
 
 namespace orvel {
 
-using TextureTiles = std::map<std::string, std::shared_ptr<_cairo_surface>, std::less<>>;
+using TextureTiles = std::map<std::string, TextureTile, std::less<>>;
 
 /// Where a canvas takes what it paints with.
 struct Sources {

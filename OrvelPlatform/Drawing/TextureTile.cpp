@@ -1,8 +1,9 @@
 #include "OrvelPlatform/Drawing/TextureTile.h"
 
+#include <algorithm>
 #include <cairo.h>
 #include <charconv>
-#include <cstdint>
+#include <cmath>
 #include <optional>
 
 namespace orvel {
@@ -22,18 +23,26 @@ std::optional<std::size_t> number(std::string_view& text)
     return value;
 }
 
-/// Premultiplied: white has its alpha in every channel, black in none.
-std::uint32_t pixel(std::uint8_t grey)
+std::uint32_t byte(double share)
 {
-    constexpr int clear = 128;
-    constexpr std::uint32_t everyChannel = 0x0101'0101, alphaOnly = 0x0100'0000;
-    const int away = grey - clear;
-    return away >= 0 ? static_cast<std::uint32_t>(away) * everyChannel : static_cast<std::uint32_t>(-away) * alphaOnly;
+    return static_cast<std::uint32_t>(std::lround(share * 255));
+}
+
+/// The ground with a grey's light or shade, premultiplied. A channel's way to its nearer end is the most that it goes,
+/// up as well as down.
+std::uint32_t pixel(std::uint8_t grey, const Color& ground, double opacity)
+{
+    constexpr double clear = 128, most = 128;
+    const double strength = (grey - clear) / most * opacity;
+    const auto channel = [&](double value) {
+        return byte((value + std::min(value, 1 - value) * strength) * ground.alpha);
+    };
+    return byte(ground.alpha) << 24U | channel(ground.red) << 16U | channel(ground.green) << 8U | channel(ground.blue);
 }
 
 }
 
-std::expected<SurfaceHandle, Fault> textureTile(std::string_view pgm)
+std::expected<TextureTile, Fault> TextureTile::fromPgm(std::string_view pgm)
 {
     const Fault unreadable { {}, "not a grey picture of a sound size" };
     constexpr std::string_view mark = "P5\n";
@@ -47,14 +56,19 @@ std::expected<SurfaceHandle, Fault> textureTile(std::string_view pgm)
         || pgm.size() != *width * *height)
         return std::unexpected(unreadable);
 
+    return TextureTile { *width, *height, { pgm.begin(), pgm.end() } };
+}
+
+SurfaceHandle TextureTile::on(const Color& ground, double opacity) const
+{
     SurfaceHandle surface(
-        cairo_image_surface_create(CAIRO_FORMAT_ARGB32, static_cast<int>(*width), static_cast<int>(*height)));
+        cairo_image_surface_create(CAIRO_FORMAT_ARGB32, static_cast<int>(width), static_cast<int>(height)));
     auto* const bytes = cairo_image_surface_get_data(surface.get());
     const auto stride = static_cast<std::size_t>(cairo_image_surface_get_stride(surface.get()));
-    for (std::size_t y = 0; y < *height; ++y) {
+    for (std::size_t y = 0; y < height; ++y) {
         auto* const row = reinterpret_cast<std::uint32_t*>(bytes + y * stride);
-        for (std::size_t x = 0; x < *width; ++x)
-            row[x] = pixel(static_cast<std::uint8_t>(pgm[y * *width + x]));
+        for (std::size_t x = 0; x < width; ++x)
+            row[x] = pixel(greys[y * width + x], ground, opacity);
     }
     cairo_surface_mark_dirty(surface.get());
     return surface;

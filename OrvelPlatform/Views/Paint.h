@@ -72,9 +72,12 @@ struct RadialGradient {
     bool operator==(const RadialGradient&) const = default;
 };
 
-/// A tile repeated from the rectangle's top left corner. A name that the drawing side does not know paints nothing.
+/// A colour with a tile's light and shade in it, repeated from the rectangle's top left corner. They are as strong as
+/// the colour leaves room for, both ways alike, so that on average the colour stays what it is. A name that the drawing
+/// side does not know paints the colour alone.
 struct Texture {
     std::string name;
+    Color ground;
     double opacity = 1;
     bool operator==(const Texture&) const = default;
 };

@@ -34,16 +34,18 @@ std::string described(const std::vector<GradientStop>& stops)
 
 std::string described(const Paint& paint)
 {
-    return std::visit(
-        Match {
-            [](const Color& color) { return described(color); },
-            [](const LinearGradient& gradient) { return "linear" + described(gradient.stops); },
-            [](const RadialGradient& gradient) {
-                return "radial " + number(gradient.radius) + described(gradient.stops);
-            },
-            [](const Texture& texture) { return fmt::format("texture {} {}", texture.name, number(texture.opacity)); },
-            [](const Erase&) { return std::string("erase"); },
-        },
+    return std::visit(Match {
+                          [](const Color& color) { return described(color); },
+                          [](const LinearGradient& gradient) { return "linear" + described(gradient.stops); },
+                          [](const RadialGradient& gradient) {
+                              return "radial " + number(gradient.radius) + described(gradient.stops);
+                          },
+                          [](const Texture& texture) {
+                              return fmt::format(
+                                  "{} texture {} {}", described(texture.ground), texture.name, number(texture.opacity));
+                          },
+                          [](const Erase&) { return std::string("erase"); },
+                      },
         paint);
 }
 

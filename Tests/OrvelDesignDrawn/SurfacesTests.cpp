@@ -71,12 +71,12 @@ TEST(FocusRings, standTwoPointsOutsideTheirControl)
         drawn(control(false), place, Environment().with<OrvelInteractionPreviewKey>(InteractionPreview::hover)), plain);
 }
 
-TEST(OrvelBackgrounds, haveGrainOverThemWhereItMayShow)
+TEST(OrvelBackgrounds, haveGrainInThemWhereItMayShow)
 {
-    const std::string fill = "fill 10,20 100×60 rectangle #17152A\n";
-    EXPECT_EQ(drawn(OrvelBackground { Palette::bg }, place, dark()),
-        fill + "fill 10,20 100×60 rectangle texture grain 0.3\n");
-    EXPECT_EQ(drawn(OrvelBackground { Palette::bg }, place, dark().with<ReduceTransparencyKey>(true)), fill);
-    EXPECT_EQ(drawn(GrainTexture {}, place), "fill 10,20 100×60 rectangle texture grain 0.16\n");
-    EXPECT_EQ(drawn(GrainTexture {}, place, dark().with<OrvelAccessibilityKey>({ .increaseContrast = true })), "");
+    const OrvelBackground background { Palette::bg };
+    const std::string plain = "fill 10,20 100×60 rectangle #17152A\n";
+    EXPECT_EQ(drawn(background, place, dark()), "fill 10,20 100×60 rectangle #17152A texture grain 0.3\n");
+    EXPECT_EQ(drawn(background, place), "fill 10,20 100×60 rectangle #F4EEE4 texture grain 0.16\n");
+    EXPECT_EQ(drawn(background, place, dark().with<ReduceTransparencyKey>(true)), plain);
+    EXPECT_EQ(drawn(background, place, dark().with<OrvelAccessibilityKey>({ .increaseContrast = true })), plain);
 }

@@ -15,7 +15,7 @@
 namespace {
 
 constexpr std::size_t side = 128;
-constexpr double spread = 22; // standard deviation, in grey levels
+constexpr double spread = 32; // standard deviation, in grey levels
 
 using Tile = std::array<std::array<double, side>, side>;
 

@@ -153,16 +153,24 @@ TEST(Scopes, clipFadeAndMagnify)
     EXPECT_EQ(magnified.alpha(15, 10), 0);
 }
 
-TEST(Textures, areNeitherLightNorDarkOnAverage)
+TEST(Textures, leaveTheirGroundAsLightAsItIs)
 {
-    const auto pixels = drawn(Shape { Rectangle {}, Texture { "grain" } }, { 128, 128 });
-    double light = 0, shade = 0;
-    for (const auto pixel : pixels.words) {
-        ((pixel & 0xffU) != 0 ? light : shade) += pixel >> 24U;
+    for (const Color& ground : { Color(0.0902, 0.0824, 0.1647), Color(0.9569, 0.9333, 0.8941), Color(0.5, 0.5, 0.5) }) {
+        const auto pixels = drawn(Shape { Rectangle {}, Texture { "grain", ground, 0.3 } }, { 128, 128 });
+        double sum = 0, away = 0;
+        for (const auto pixel : pixels.words) {
+            const double difference = static_cast<int>(pixel >> 16U & 0xffU) - ground.red * 255;
+            sum += difference;
+            away += std::abs(difference);
+        }
+        EXPECT_NEAR(sum / (128 * 128), 0, 0.1) << ground.red;
+        EXPECT_GT(away / (128 * 128), 0.5) << ground.red;
     }
-    EXPECT_GT(light, 128 * 128 * 5);
-    EXPECT_NEAR(light / shade, 1, 0.02);
-    EXPECT_EQ(drawn(Shape { Rectangle {}, Texture { "../grain" } }, { 8, 8 }).alpha(4, 4), 0);
+}
+
+TEST(Textures, thatNobodyKnowsAreTheirGround)
+{
+    EXPECT_EQ(drawn(Shape { Rectangle {}, Texture { "../grain", Color(1, 0, 0) } }, { 8, 8 }).at(4, 4), 0xffff0000);
 }
 
 TEST(Pictures, beyondTheirLimitsAreRefused)
