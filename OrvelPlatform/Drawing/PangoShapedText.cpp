@@ -144,7 +144,6 @@ PangoShapedText::PangoShapedText(Handle<PangoLayout> layout, const TextBlock& bl
     size.height = static_cast<double>(lines.size()) * lineHeight;
     firstBaseline = m_baselines.front();
     lastBaseline = m_baselines.back();
-    isCut = pango_layout_is_ellipsized(m_layout.get()) != FALSE;
 }
 
 PangoShapedText::~PangoShapedText() = default;

@@ -7,12 +7,14 @@
 
 #include "OrvelPlatform/Drawing/FontMaps.h"
 #include "OrvelPlatform/Drawing/GlyphMasks.h"
+#include "OrvelPlatform/Drawing/PangoParagraph.h"
 #include "OrvelPlatform/Views/TextSystem.h"
 
 namespace orvel {
 
-/// Shapes text with the bundle's typefaces. What was shaped is kept, with the pixels that were drawn of it. For one
-/// thread.
+/// Shapes text with the bundle's typefaces, and with the system's for letters that those lack. Letters that none of
+/// them has are shown as a small empty square, a stretch of them as one. What was shaped is kept, with the pixels that
+/// were drawn of it. For one thread.
 class PangoTextSystem final : public TextSystem {
 public:
     /// `folder` holds the typefaces as TTF files.
@@ -30,7 +32,7 @@ private:
         using is_transparent = void;
         bool operator()(const TextBlock& a, const TextBlock& b) const
         {
-            return a.direction == b.direction && a.runs == b.runs;
+            return a.direction == b.direction && a.language == b.language && a.runs == b.runs;
         }
     };
     /// A paragraph's lines are the same in every width from the one that they took to the one that was offered.
@@ -54,6 +56,15 @@ private:
     using KeptTexts = std::unordered_map<TextBlock, Kept, Hash, SameWords>;
 
     Kept& keptOf(const TextBlock& block);
+
+    /// A paragraph as it can be shown, with the fonts that it needs.
+    struct Shown {
+        PangoParagraph paragraph;
+        _PangoContext* context;
+        Handle<_PangoLayout> layout;
+    };
+
+    Shown shown(const TextBlock& block, double width);
     std::shared_ptr<const ShapedText> shapeAfresh(const TextBlock& block, double width);
     Heights heights(const TextStyle& style, _PangoLayout* layout);
 

@@ -30,6 +30,7 @@ std::shared_ptr<const ShapedText> shaped(const Text& text, double width, double 
         .alignment = text.alignment,
         .balanced = text.balanced,
         .direction = environment.get<LayoutDirectionKey>(),
+        .language = environment.get<TextLanguageKey>(),
     };
     block.runs.reserve(text.runs.size());
     for (const auto& run : text.runs)

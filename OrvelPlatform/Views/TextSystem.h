@@ -42,6 +42,7 @@ struct TextBlock {
     TextAlignment alignment = TextAlignment::leading;
     bool balanced = false; // several lines of about one length, in no more lines than otherwise
     LayoutDirection direction = LayoutDirection::leftToRight; // of the layout; letters follow their own script
+    std::string language {}; // BCP 47; chooses between a script's forms (Han letters differ). Empty: not known
 
     bool operator==(const TextBlock&) const = default;
 };
@@ -79,6 +80,12 @@ public:
 struct TextSystemKey {
     using Value = std::shared_ptr<TextSystem>;
     static Value defaultValue();
+};
+
+/// The language of the words, as a BCP 47 tag; empty where nobody said.
+struct TextLanguageKey {
+    using Value = std::string;
+    static Value defaultValue() { return {}; }
 };
 
 struct LayoutDirectionKey {

@@ -4,6 +4,7 @@
 #include "OrvelDesign/TokensType.h"
 #include "OrvelPlatform/Views/Primitives.h"
 #include "OrvelWidgetsUI/Drawn/WidgetSymbol.h"
+#include "OrvelWidgetsUI/Drawn/WordsLocale.h"
 
 namespace orvel {
 
@@ -135,7 +136,7 @@ View ControlStandIn::body(const Environment& environment) const
     return Element {
         .role = ElementRole::button,
         .label = content.title + " · " + content.spokenState.value_or(content.value),
-        .content = picture(*this, environment),
+        .content = With { .changes = withTextLanguage({}, environment), .content = picture(*this, environment) },
     };
 }
 

@@ -66,6 +66,7 @@ bool isCut(const Text& text, double width, const Environment& environment)
         .runs = { { text.runs.front().text, text.runs.front().style } },
         .lineLimit = text.lineLimit,
         .direction = environment.get<LayoutDirectionKey>(),
+        .language = environment.get<TextLanguageKey>(),
     };
     return environment.get<TextSystemKey>()->shape(block, width)->isCut;
 }

@@ -1,14 +1,15 @@
 #include "OrvelWidgetsUI/Drawn/WidgetCanvas.h"
 
 #include "OrvelPlatform/Views/Primitives.h"
+#include "OrvelWidgetsUI/Drawn/WordsLocale.h"
 
 namespace orvel {
 
-View WidgetCanvas::body(const Environment&) const
+View WidgetCanvas::body(const Environment& environment) const
 {
     const auto canvas = points(size);
     return With {
-        .changes = lookEnvironment(look, {}),
+        .changes = withTextLanguage(lookEnvironment(look, {}), environment),
         .content = Clipped { Rectangle {},
             Frame {
                 .width = FrameLength::exactly(canvas.width),

@@ -4,6 +4,7 @@
 #include "Tests/OrvelPlatform/Drawing/Drawn.h"
 
 using namespace orvel;
+using testing::ElementsAre;
 
 namespace {
 
@@ -111,9 +112,22 @@ TEST(TextLines, breakCutAndBalance)
         { "a zero byte", with(std::string("a\0b", 3), 1, false), noLimit, { "a\uFFFDb" } },
         { "nothing", with("", 2, true), 10, { "" } },
         { "no room", with("anything", 1, false), 0, { "…" } },
+        { "no separator before an ellipsis", with("Morning · evening", 1, false), 90, { "Morning…" } },
     };
     for (const auto& c : cases)
         EXPECT_EQ(linesOf(*shaped(c.block, c.width)), c.lines) << c.name;
+}
+
+TEST(TextLines, areNotCutWithinLettersThatJoin)
+{
+    const TextStyle style { .size = 17, .weight = 600 };
+    auto arabic = block("والإجابة عن كل سؤال على حدة", style);
+    arabic.lineLimit = 1;
+    const double room = widthOf("والإجابة عن كل سؤال عل…", style) + 1;
+    EXPECT_THAT(linesOf(*shaped(arabic, room)), ElementsAre("والإجابة عن كل سؤال…"));
+    EXPECT_TRUE(shaped(arabic, room)->isCut);
+    const auto within = linesOf(*shaped(arabic, widthOf("والإ…", style) + 1));
+    EXPECT_TRUE(within.front().ends_with("…") && within.front() != "…") << "a word longer than the line";
 }
 
 TEST(TextLines, areTheSameInTheWidthTheyTook)
@@ -146,4 +160,12 @@ TEST(TextFallback, findsLettersThatTheTypefacesLack)
     const auto pixels = drawn(moon, { 40, 24 }, 2);
     EXPECT_TRUE(std::ranges::any_of(pixels.words, [](std::uint32_t pixel) { return (pixel & 0xffffffU) != 0; }))
         << "an emoji has colours of its own";
+}
+
+TEST(TextFallback, marksAStretchOfLettersThatNoFaceHas)
+{
+    // Of the private use area: no typeface has a letter there.
+    EXPECT_THAT(linesOf(*shaped(block("a\U00100000\U00100001b\U00100002"))), ElementsAre("a□b□"));
+    TextBlock two { .runs = { { "x\U00100000", {} }, { "\U00100001y", {} } } };
+    EXPECT_THAT(linesOf(*shaped(two)), ElementsAre("x□y"));
 }
