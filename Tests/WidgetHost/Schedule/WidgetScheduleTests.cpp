@@ -60,6 +60,7 @@ TEST(WidgetSchedule, aSignalReachesTheKindsItNames)
         Desk desk;
         desk.extension.makeTimeline = [](Date now) { return ticking(now, 2, 1h); };
         desk.schedule.setWidgets({ widget("one"), widget("two"), widget("three", "breathe") });
+        desk.schedule.setWidgets({ widget("three", "breathe"), widget("two"), widget("one") }); // nothing new
         desk.schedule.reload(c.kinds);
         EXPECT_EQ(desk.extension.timelinesAsked.size(), 3 + c.requests) << c.name;
     }
@@ -113,6 +114,40 @@ TEST(WidgetSchedule, whatFailsBacksOffKeepsItsPictureAndSaysSoAfterAMinute)
         EXPECT_FALSE(desk.shown["one"].staleSince);
         EXPECT_EQ(desk.link("one"), desk.extension.expected(widget("one").environment));
     }
+}
+
+TEST(WidgetSchedule, aChangeEndsThePauseAfterFailures)
+{
+    Desk desk;
+    const auto same = ticking(midnight, 2, 24h);
+    desk.extension.makeTimeline = [&](Date) { return same; };
+    auto dark = widget("one");
+    dark.environment.colorScheme = "dark";
+    desk.schedule.setWidgets({ widget("one") });
+    auto isBroken = true;
+    desk.extension.pictureConduct = [&] {
+        return FakeRequests::Conduct { .fault = isBroken ? std::optional(Kind::cannotDraw) : std::nullopt };
+    };
+
+    desk.schedule.setWidgets({ dark });
+    desk.clock.advance(10min);
+    EXPECT_TRUE(desk.shown["one"].staleSince);
+    desk.schedule.setWidgets({ widget("one") });
+    EXPECT_FALSE(desk.shown["one"].staleSince) << "what is wanted again is what is shown";
+
+    desk.schedule.setWidgets({ dark });
+    desk.clock.advance(10min);
+    isBroken = false;
+    desk.schedule.reload({});
+    EXPECT_EQ(desk.link("one"), desk.extension.expected(dark.environment));
+
+    desk.extension.timelineConduct = [] { return FakeRequests::Conduct { .fault = Kind::unavailable }; };
+    desk.schedule.reload({});
+    desk.clock.advance(10min);
+    desk.extension.timelinesAsked.clear();
+    desk.schedule.reload({});
+    desk.clock.advance(3s);
+    EXPECT_EQ(desk.extension.timelinesAsked.size(), 3U) << "and the next pauses are short";
 }
 
 TEST(WidgetSchedule, anExtensionThatTalksNonsenseIsNotAskedWithoutEnd)
