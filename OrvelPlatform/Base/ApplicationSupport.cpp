@@ -38,4 +38,11 @@ fs::path applicationSupport()
     return home() / ".local" / "share";
 }
 
+fs::path applicationConfiguration()
+{
+    if (auto path = absolutePathFrom("XDG_CONFIG_HOME"); !path.empty())
+        return path;
+    return home() / ".config";
+}
+
 }

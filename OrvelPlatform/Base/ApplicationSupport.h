@@ -8,4 +8,8 @@ namespace orvel {
 /// It need not exist.
 std::filesystem::path applicationSupport();
 
+/// The user's folder for settings of applications: `$XDG_CONFIG_HOME` when that is an absolute path, else `~/.config`.
+/// It need not exist.
+std::filesystem::path applicationConfiguration();
+
 }

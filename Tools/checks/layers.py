@@ -36,8 +36,10 @@ BELOW = {
     ],
     "WidgetHost": [
         "OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Drawing", "OrvelPlatform/Desktop",
-        "OrvelCopy/Lookup", "OrvelDesign", "OrvelDesign/Drawn",
+        "OrvelCopy/Lookup", "OrvelDesign", "OrvelDesign/Drawn", "WidgetHost/Schedule", "WidgetHost/State",
     ],
+    "WidgetHost/Schedule": ["OrvelPlatform/Base", "OrvelPlatform/Desktop"],
+    "WidgetHost/State": ["OrvelPlatform/Base"],
 }
 
 # Headers of the system, and the folders that may see them; sources only where the folder's name ends in ".cpp".

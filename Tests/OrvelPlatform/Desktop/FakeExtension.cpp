@@ -60,6 +60,8 @@ public:
 
     Answer<ExtensionTimeline> timeline(std::string_view kind, const HostEnvironment&) override
     {
+        if (kind == "ticking" || kind == "brittle")
+            return ticking();
         const std::size_t size = kind == "huge" ? 1U << 20U : 8;
         ExtensionTimeline timeline { .entries = {}, .moments = {}, .reload = Date { std::chrono::hours { 1 } } };
         for (std::uint32_t index = 0; index < 10; ++index) {
@@ -77,6 +79,8 @@ public:
             return fault(Kind::badEntry, "Not one of mine.");
         if (kind == "slow")
             std::this_thread::sleep_for(std::chrono::milliseconds { 100 });
+        if (kind == "brittle" && !std::ifstream(std::getenv("FAKE_LOG")))
+            die();
         const std::uint32_t side = kind == "large" ? 4096 : 3;
         ExtensionPicture::Layer layer { .name = "whole",
             .content = ExtensionPicture::Pixels(std::size_t { side } * side, 0x80402010U) };
@@ -130,6 +134,17 @@ public:
     void prepareForPictures() override { m_isPrepared = true; }
 
 private:
+    /// Two seconds of entries.
+    ExtensionTimeline ticking() const
+    {
+        constexpr std::chrono::milliseconds tick { 200 };
+        const auto now = m_clock.now();
+        ExtensionTimeline timeline { .entries = {}, .moments = { "moment" }, .reload = now + 10 * tick };
+        for (auto index = 0; index < 10; ++index)
+            timeline.entries.push_back({ .date = now + index * tick, .moment = 0 });
+        return timeline;
+    }
+
     static Answer<ExtensionEntry> entry(std::string_view kind)
     {
         if (kind != "plain")
