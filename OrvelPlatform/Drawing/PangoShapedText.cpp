@@ -37,6 +37,21 @@ std::vector<PangoGlyphItem*> itemsOf(const PangoLayoutLine* line)
     return items;
 }
 
+/// Puts all scripts on one baseline. Pango lets a line's first script decide and moves the others by what it takes for
+/// that script's baseline in their typefaces, which a typeface without such a table lets it guess: digits among Han
+/// letters would hang in the air.
+void alignBaselines(PangoLayout* layout)
+{
+    const auto isMoved = [](const PangoGlyphItem* item) { return item->y_offset != 0; };
+    for (const auto* line : linesOf(layout)) {
+        if (std::ranges::none_of(itemsOf(line), isMoved))
+            continue;
+        pango_layout_get_lines(layout); // what is known of the lines' places is forgotten
+        for (auto* item : itemsOf(line))
+            item->y_offset = 0;
+    }
+}
+
 bool isEllipsis(const PangoGlyphItem* item)
 {
     return (item->item->analysis.flags & PANGO_ANALYSIS_FLAG_IS_ELLIPSIS) != 0;
@@ -150,6 +165,7 @@ PangoShapedText::~PangoShapedText() = default;
 
 void PangoShapedText::setLines(const TextBlock& block)
 {
+    alignBaselines(m_layout.get());
     for (auto* const line : linesOf(m_layout.get())) {
         lines.push_back({ shownText(m_layout.get(), line), 0, widthOf(line) });
         size.width = std::max(size.width, lines.back().width);
@@ -187,8 +203,8 @@ bool PangoShapedText::hasPlainGlyphs() const
     for (const auto* line : linesOf(m_layout.get())) {
         for (const auto* item : itemsOf(line)) {
             const std::span glyphs(item->glyphs->glyphs, static_cast<std::size_t>(item->glyphs->num_glyphs));
-            if (item->y_offset != 0 || !isOfSeparateLetters(item->item)
-                || !PANGO_IS_CAIRO_FONT(item->item->analysis.font) || !std::ranges::all_of(glyphs, isPlain))
+            if (!isOfSeparateLetters(item->item) || !PANGO_IS_CAIRO_FONT(item->item->analysis.font)
+                || !std::ranges::all_of(glyphs, isPlain))
                 return false;
         }
     }

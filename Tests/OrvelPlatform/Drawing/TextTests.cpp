@@ -54,6 +54,7 @@ TEST(TextMeasures, areThoseOfTheBundlesTypefaces)
         { "serif", widthOf(words, { .family = FontFamily::serif, .size = 20 }), 199.74 },
         { "serif italic", widthOf(words, { .family = FontFamily::serif, .size = 20, .italic = true }), 184.04 },
         { "twice the size", widthOf(words, { .size = 40 }), 2 * widthOf(words, plain) },
+        { "a narrow space", widthOf("9:05\u202FAM", plain), widthOf("9:05 AM", plain) },
         { "tracking between five letters", widthOf("FOCUS", tracked), widthOf("FOCUS", plain) + 4 * 2 },
     };
     for (const auto& c : cases)
@@ -168,4 +169,31 @@ TEST(TextFallback, marksAStretchOfLettersThatNoFaceHas)
     EXPECT_THAT(linesOf(*shaped(block("a\U00100000\U00100001b\U00100002"))), ElementsAre("a□b□"));
     TextBlock two { .runs = { { "x\U00100000", {} }, { "\U00100001y", {} } } };
     EXPECT_THAT(linesOf(*shaped(two)), ElementsAre("x□y"));
+}
+
+TEST(TextFallback, standsOnTheSameBaseline)
+{
+    const auto lowestRow = [](std::string words, std::size_t from, std::size_t to) {
+        const View view = Text { .runs = { { std::move(words), { .size = 20, .lineHeight = 24 } } }, .paint = Color() };
+        const auto pixels = drawn(view, { 80, 24 }, 2);
+        std::size_t lowest = 0;
+        for (std::size_t y = 0; y < 48; ++y) {
+            for (auto x = from; x < to; ++x)
+                lowest = pixels.alpha(x, y) > 128 ? y : lowest;
+        }
+        return lowest;
+    };
+    const auto width = static_cast<std::size_t>(2 * widthOf("日", { .size = 20 }));
+    EXPECT_EQ(lowestRow("日88", width + 2, 160), lowestRow("88", 0, 160)) << "digits after a Han letter";
+}
+
+TEST(TextLanguage, formsItsLetters)
+{
+    const auto drawnIn = [](const char* language) {
+        const TextStyle italic { .family = FontFamily::serif, .size = 20, .lineHeight = 24, .italic = true };
+        const View view = Text { .runs = { { "бгдпт", italic } }, .paint = Color() };
+        const auto words = Environment().with<TextLanguageKey>(language);
+        return renderer().draw(view, { .size = { 60, 24 } }, words)->layers.front().pixels;
+    };
+    EXPECT_NE(drawnIn("sr"), drawnIn("ru"));
 }
