@@ -43,7 +43,7 @@ View figures(const MediumWidget& widget)
 View MediumWidget::body(const Environment&) const
 {
     constexpr double spacing = 14;
-    constexpr double leastAboveFoot = 6; // with four lines of text just this is left
+    constexpr double leastAboveFoot = 8; // with four lines of text just this is left
     const View left = Frame {
         .width = FrameLength::filling(),
         .height = FrameLength::filling(),

@@ -12,7 +12,7 @@ namespace {
 /// Between the header and the words: air, which the words may use up where they need a line more.
 View gap()
 {
-    constexpr double least = 4, most = 8;
+    constexpr double least = 2, most = 8;
     return Frame { .height = { .least = least, .ideal = most, .most = most }, .content = Spacer {} };
 }
 

@@ -107,10 +107,10 @@ TEST(MediumWidget, hasRoomForFourLinesAboveTheLabel)
     content.detail = "Tomorrow 9:00 AM – 10:30 AM · Ultra Hard indeed";
     const auto canvas = recordedWidget(content, WidgetSize::medium, WidgetLook::dusk);
     EXPECT_EQ(
-        linesWith(canvas, "text 18"), R"(text 18,44 178.5×44 "Finish the report and / answer all questions" #F4ECDF
-text 18,88 180×32 "Tomorrow 9:00 AM –⁠ 10:30 AM · / Ultra Hard indeed" #A9A2B8
-element text 18,44 178.5×44 "Finish the report and answer all questions"
-element text 18,88 180×32 "Tomorrow 9:00 AM – 10:30 AM · Ultra Hard indeed"
+        linesWith(canvas, "text 18"), R"(text 18,42 178.5×44 "Finish the report and / answer all questions" #F4ECDF
+text 18,86 180×32 "Tomorrow 9:00 AM –⁠ 10:30 AM · / Ultra Hard indeed" #A9A2B8
+element text 18,42 178.5×44 "Finish the report and answer all questions"
+element text 18,86 180×32 "Tomorrow 9:00 AM – 10:30 AM · Ultra Hard indeed"
 )");
 }
 
