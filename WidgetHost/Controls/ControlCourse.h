@@ -1,9 +1,11 @@
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "WidgetHost/Controls/ControlRequests.h"
 #include "WidgetHost/Controls/Question.h"
