@@ -150,6 +150,7 @@ TEST(ControlCenter, anOccasionReachesTheControlsItConcerns)
         std::string_view name;
         std::function<void(ControlCenter&)> occasion;
         std::vector<std::string> asked;
+        int members = 0;
     };
     const auto reload = [](std::vector<std::string> kinds) {
         return [kinds = std::move(kinds)](ControlCenter& center) { center.reload(kinds); };
@@ -161,7 +162,7 @@ TEST(ControlCenter, anOccasionReachesTheControlsItConcerns)
         { "a signal for unknown ones", reload({ "nobody", "" }), {} },
         { "the clock is set", [](ControlCenter& center) { center.clockWasSet(); }, { "focus", "breathe" } },
         { "another language", [](ControlCenter& center) { center.setEnvironment({ .language = "de" }); },
-            { "focus", "breathe" } },
+            { "focus", "breathe" }, 1 },
         { "the same language", [](ControlCenter& center) { center.setEnvironment({ .language = "en" }); }, {} },
     };
     for (const auto& c : cases) {
@@ -169,6 +170,7 @@ TEST(ControlCenter, anOccasionReachesTheControlsItConcerns)
         controls.extension.valuesAsked.clear();
         c.occasion(controls.center);
         EXPECT_EQ(controls.extension.valuesAsked, c.asked) << c.name;
+        EXPECT_EQ(controls.extension.membersAsked, 1 + c.members) << c.name;
     }
 }
 
@@ -273,10 +275,11 @@ TEST(ControlCenter, whatFailsBacksOffKeepsItsValueAndIsKnown)
     for (const auto& c : cases) {
         Controls controls;
         controls.extension.isFocusOn = true;
+        controls.extension.changes = [](Date now) { return now + 1min; };
         controls.center.reload({});
         controls.extension.valuesAsked.clear();
         controls.extension.valueConduct.fault = c.fault;
-        controls.center.reload({ "focus" });
+        controls.clock.advance(1min);
         EXPECT_TRUE(controls.center.isReachable()) << "once may be chance";
         controls.clock.advance(30min);
         EXPECT_EQ(controls.extension.valuesAsked.size(), 1U + 9 + 4) << c.name; // 1, 2 … 256 s, then every five minutes

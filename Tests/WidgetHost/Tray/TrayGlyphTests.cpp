@@ -43,7 +43,6 @@ TEST(TrayGlyph, followsTheControl)
         { "something is let through", showing("unlock"), MenuBarOrb::Unlock {} },
         { "the application wants help", showing("fix"), MenuBarOrb::Fix {} },
         { "nobody answers", showing("active", 1), MenuBarOrb::Fix {}, false },
-        { "a whole minute", showing("focus", 0.3, 10min), MenuBarOrb::Focus { 3.0 / 10 } },
         { "within a minute", showing("focus", 0.21, 10min), MenuBarOrb::Focus { 3.0 / 10 } },
         { "its last second", showing("focus", 1.0 / 600, 10min), MenuBarOrb::Focus { 0.1 } },
         { "shorter than a minute", showing("focus", 0.5, 30s), MenuBarOrb::Focus { 1 } },
@@ -54,6 +53,17 @@ TEST(TrayGlyph, followsTheControl)
     };
     for (const auto& c : cases)
         EXPECT_EQ(trayGlyph(c.value, c.isReachable), c.state) << c.name;
+}
+
+TEST(TrayGlyph, stepsAtWholeMinutesExactly)
+{
+    for (auto length = 1; length <= 90; ++length) {
+        for (auto left = 0; left <= length; ++left) {
+            const auto share = static_cast<double>(left) / length;
+            const auto glyph = trayGlyph(showing("focus", share, std::chrono::minutes { length }), true);
+            EXPECT_EQ(glyph, MenuBarOrbState(MenuBarOrb::Focus { share })) << left << " of " << length;
+        }
+    }
 }
 
 TEST(TrayGlyph, isLightOnDarkPanelsAndDarkOnLightOnes)
@@ -111,6 +121,8 @@ TEST(TrayMenuItems, keepTheirNumbersAndTellWhatChanged)
         { "another order, one more separator", { breathe, separator, focusOn, separator, quit }, { 2, 3, 1, 5, 4 },
             true, {} },
         { "another sort", { breathe, separator, focusPlain, separator, quit }, { 2, 3, 1, 5, 4 }, true, {} },
+        { "the last two change places", { breathe, separator, focusPlain, quit, separator }, { 2, 3, 1, 4, 5 }, true,
+            {} },
         { "nothing at all", {}, {}, true, {} },
     };
     TrayMenuItems items;
