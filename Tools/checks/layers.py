@@ -40,6 +40,8 @@ BELOW = {
     ],
     "WidgetHost/Schedule": ["OrvelPlatform/Base", "OrvelPlatform/Desktop"],
     "WidgetHost/State": ["OrvelPlatform/Base"],
+    "WidgetHost/Controls": ["OrvelPlatform/Base", "OrvelPlatform/Desktop", "WidgetHost/Schedule"],
+    "WidgetHost/Tray": ["OrvelPlatform/Base", "OrvelPlatform/Desktop", "OrvelDesign", "OrvelDesign/Drawn"],
 }
 
 # Headers of the system, and the folders that may see them; sources only where the folder's name ends in ".cpp".
@@ -47,7 +49,7 @@ SYSTEM = {
     r"(unicode/|absl/)": ["OrvelPlatform/Base"],
     r"simdjson": ["OrvelPlatform/Base"],
     r"(cairo|pango/|fontconfig/)": ["OrvelPlatform/Drawing"],
-    r"(gio/|glib)": ["OrvelPlatform/Desktop", "WidgetHost"],
+    r"(gio/|glib)": ["OrvelPlatform/Desktop", "WidgetHost", "WidgetHost/Tray"],
     r"(gtk|gdk|X11/)": ["WidgetHost.cpp"],
 }
 
