@@ -20,7 +20,6 @@ BUS = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration
   <listen>unix:dir={folder}</listen>
   <auth>EXTERNAL</auth>
   <servicedir>{services}</servicedir>
-  <servicedir>/usr/share/dbus-1/services</servicedir>
   <policy context="default">
     <allow user="*"/>
     <allow send_destination="*" eavesdrop="true"/>
@@ -34,6 +33,10 @@ output HEADLESS-1 resolution {width}x{height} scale {scale} bg #35506b solid_col
 xwayland disable
 default_border none
 seat * hide_cursor 1
+"""
+ACCESSIBILITY = """[D-BUS Service]
+Name=org.a11y.Bus
+Exec=/usr/libexec/at-spi-bus-launcher
 """
 OPENBOX = """<?xml version="1.0"?><openbox_config xmlns="http://openbox.org/3.4/rc">
 <focus><followMouse>no</followMouse></focus><desktops><number>2</number></desktops></openbox_config>
@@ -76,6 +79,7 @@ class Desktop(contextlib.AbstractContextManager):
         services.mkdir()
         name = "app.orvel.Orvel.WidgetExtension"
         (services / f"{name}.service").write_text(f"[D-BUS Service]\nName={name}\nExec={self.programs}/orvel-widgets\n")
+        (services / "org.a11y.Bus.service").write_text(ACCESSIBILITY)
         configuration = self.folder / "bus.conf"
         configuration.write_text(BUS.format(folder=self.folder / "runtime", services=services))
         self.own()
