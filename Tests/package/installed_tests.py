@@ -125,6 +125,18 @@ class DesktopTests(unittest.TestCase):
         names = lambda section: {key: value for key, value in section.items() if key.startswith("Name")}
         self.assertEqual(names(autostart), names(menu))
 
+    def test_the_menu_says_what_widgets_and_windows_say(self):
+        menu = entry(SOURCE / f"Resources/desktop/{HOST}.desktop")
+        about, action = menu["Desktop Entry"], menu["Desktop Action add-widgets"]
+        tables = {"OrvelCopy": [(about, "Comment", "What’s keeping things quiet now, today’s numbers and a breath.")],
+                  "WidgetHost/Words": [(about, "Name", "Orvel Widgets"), (action, "Name", "Add Widgets…")]}
+        for folder, texts in tables.items():
+            for table in (SOURCE / folder / "Tables").glob("*.po"):
+                language, content = table.stem, table.read_text(encoding="utf-8")
+                for section, key, text in texts:
+                    translated = re.search(rf'^msgid "{re.escape(text)}"\nmsgstr "(.*)"$', content, re.MULTILINE)[1]
+                    self.assertEqual(section[f"{key}[{language}]"], translated.rstrip(".。"), (language, key))
+
     def test_the_metainfo_speaks_of_what_is_there(self):
         metainfo = ElementTree.parse(PRODUCTS / f"share/metainfo/{HOST}.metainfo.xml").getroot()
         self.assertEqual(metainfo.findtext("launchable"), f"{HOST}.desktop")
