@@ -7,7 +7,7 @@ namespace orvelctl {
 
 namespace {
 
-/// Help is an answer; anything else that parsing throws is a wrong call, told in one line.
+/// Help and the version are answers; anything else that parsing throws is a wrong call, told in one line.
 Exit report(const CLI::App& app, const CLI::ParseError& error)
 {
     if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) {
@@ -24,6 +24,7 @@ int runProgram(int argc, const char* const* argv, const std::function<void(CLI::
     try {
         CLI::App app("Orvel's widgets from a shell: what they will show, when, and why.", "orvelctl");
         app.require_subcommand(0, 1);
+        app.set_version_flag("--version", "orvelctl " ORVEL_VERSION);
         Action action;
         addCommands(app, action);
         try {
