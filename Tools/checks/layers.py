@@ -40,6 +40,7 @@ BELOW = {
     ],
     "WidgetHost/Schedule": ["OrvelPlatform/Base", "OrvelPlatform/Desktop"],
     "WidgetHost/State": ["OrvelPlatform/Base"],
+    "WidgetHost/Face": ["OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Desktop", "WidgetHost/State"],
 }
 
 # Headers of the system, and the folders that may see them; sources only where the folder's name ends in ".cpp".
