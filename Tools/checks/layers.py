@@ -40,6 +40,7 @@ BELOW = {
     ],
     "WidgetHost/Schedule": ["OrvelPlatform/Base", "OrvelPlatform/Desktop"],
     "WidgetHost/State": ["OrvelPlatform/Base"],
+    "WidgetHost/Words": ["OrvelPlatform/Base", "OrvelCopy/Lookup", "WidgetHost/State"],
     "WidgetHost/Face": ["OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Desktop", "WidgetHost/State"],
 }
 
