@@ -41,6 +41,10 @@ BELOW = {
     "WidgetHost/Schedule": ["OrvelPlatform/Base", "OrvelPlatform/Desktop"],
     "WidgetHost/State": ["OrvelPlatform/Base"],
     "WidgetHost/Words": ["OrvelPlatform/Base", "OrvelCopy/Lookup", "WidgetHost/State"],
+    "WidgetHost/Desk": [
+        "OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Desktop", "OrvelDesign", "WidgetHost/Schedule",
+        "WidgetHost/State", "WidgetHost/Words", "WidgetHost/Face",
+    ],
     "WidgetHost/Face": ["OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Desktop", "WidgetHost/State"],
 }
 
