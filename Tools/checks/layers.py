@@ -46,6 +46,10 @@ BELOW = {
         "WidgetHost/State", "WidgetHost/Words", "WidgetHost/Face",
     ],
     "WidgetHost/Face": ["OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Desktop", "WidgetHost/State"],
+    "WidgetHost/Windows": [
+        "OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Drawing", "OrvelPlatform/Desktop", "OrvelDesign",
+        "OrvelDesign/Drawn", "WidgetHost/State", "WidgetHost/Face",
+    ],
 }
 
 # Headers of the system, and the folders that may see them; sources only where the folder's name ends in ".cpp".
@@ -53,8 +57,8 @@ SYSTEM = {
     r"(unicode/|absl/)": ["OrvelPlatform/Base"],
     r"simdjson": ["OrvelPlatform/Base"],
     r"(cairo|pango/|fontconfig/)": ["OrvelPlatform/Drawing"],
-    r"(gio/|glib)": ["OrvelPlatform/Desktop", "WidgetHost"],
-    r"(gtk|gdk|X11/)": ["WidgetHost.cpp"],
+    r"(gio/|glib)": ["OrvelPlatform/Desktop", "WidgetHost", "WidgetHost/Windows.cpp"],
+    r"(gtk|gdk|X11/|wayland)": ["WidgetHost.cpp", "WidgetHost/Windows.cpp"],
 }
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
