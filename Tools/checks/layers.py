@@ -37,9 +37,14 @@ BELOW = {
     "WidgetHost": [
         "OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Drawing", "OrvelPlatform/Desktop",
         "OrvelCopy/Lookup", "OrvelDesign", "OrvelDesign/Drawn", "WidgetHost/Schedule", "WidgetHost/State",
+        "WidgetHost/Style", "WidgetHost/Gallery",
     ],
     "WidgetHost/Schedule": ["OrvelPlatform/Base", "OrvelPlatform/Desktop"],
     "WidgetHost/State": ["OrvelPlatform/Base"],
+    "WidgetHost/Style": ["OrvelPlatform/Base", "OrvelPlatform/Drawing", "OrvelDesign", "OrvelDesign/Drawn"],
+    "WidgetHost/Gallery": [
+        "OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Desktop", "OrvelDesign", "WidgetHost/Style",
+    ],
 }
 
 # Headers of the system, and the folders that may see them; sources only where the folder's name ends in ".cpp".
@@ -48,7 +53,7 @@ SYSTEM = {
     r"simdjson": ["OrvelPlatform/Base"],
     r"(cairo|pango/|fontconfig/)": ["OrvelPlatform/Drawing"],
     r"(gio/|glib)": ["OrvelPlatform/Desktop", "WidgetHost"],
-    r"(gtk|gdk|X11/)": ["WidgetHost.cpp"],
+    r"(gtk|gdk|X11/)": ["WidgetHost.cpp", "WidgetHost/Style.cpp", "WidgetHost/Gallery.cpp"],
 }
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
