@@ -21,10 +21,15 @@ namespace Space = Tokens::Space;
 
 constexpr const char* windowName = "orvel-gallery";
 
+/// How far words stand within their column, so that they line up with the pictures and not with the buttons round them.
+constexpr int tileInset = static_cast<int>(GalleryMetrics::tileInset);
+
 void makeText(Gtk::Label& label, const char* styleClass)
 {
     label.get_style_context()->add_class(styleClass);
     label.set_xalign(0);
+    label.set_margin_start(tileInset);
+    label.set_margin_end(tileInset);
     label.set_line_wrap();
     label.set_line_wrap_mode(Pango::WRAP_WORD_CHAR);
 }
@@ -149,19 +154,23 @@ void Gallery::Window::arrange()
     makeText(m_title, "hero");
     setAccessibleRole(m_title, AccessibleRole::heading);
     makeText(m_warningSentence, "body");
+    m_warningSentence.set_margin_start(0);
+    m_warningSentence.set_margin_end(0);
     setAccessibleRole(m_warning, AccessibleRole::notification);
     m_warning.get_style_context()->add_class("warning");
     m_tryAgain.get_style_context()->add_class("capsule");
     m_tryAgain.get_style_context()->add_class("headline");
     m_tryAgain.set_valign(Gtk::ALIGN_CENTER);
+    m_warning.set_margin_start(tileInset);
+    m_warning.set_margin_end(tileInset);
     m_warning.pack_start(m_warningSentence, Gtk::PACK_EXPAND_WIDGET);
     m_warning.pack_start(m_tryAgain, Gtk::PACK_SHRINK);
     m_warning.set_no_show_all();
     m_warningSentence.show();
 
     constexpr int margin = static_cast<int>(GalleryMetrics::margin);
-    m_page.set_margin_start(margin);
-    m_page.set_margin_end(margin);
+    m_page.set_margin_start(margin - tileInset);
+    m_page.set_margin_end(margin - tileInset);
     m_page.set_margin_top(static_cast<int>(Space::s2));
     m_page.set_margin_bottom(margin);
     m_page.pack_start(m_title, Gtk::PACK_SHRINK);

@@ -2,7 +2,7 @@
 
 #include <fmt/format.h>
 
-#include "OrvelDesign/MacSpace.h"
+#include "OrvelDesign/CardBackground.h"
 #include "OrvelDesign/Palette.h"
 #include "OrvelDesign/TokensShadow.h"
 
@@ -22,6 +22,15 @@ ShadowLayer fallingShadow(ColorFlags colors)
     return layer;
 }
 
+/// A picture's edge lies outside it: what is inside would lie below its pixels.
+std::string edge(const StyleSheet& sheet)
+{
+    const auto colors = sheet.settings().colors;
+    if (const auto border = cardEdge(LitEdge::resting, colors).border)
+        return fmt::format("border: {}px solid {};", border->width, sheet.color(Palette::line));
+    return fmt::format("box-shadow: {};", StyleSheet::shadow(fallingShadow(colors)));
+}
+
 void addPreviews(StyleSheet& sheet)
 {
     constexpr double corner = GalleryMetrics::corner + GalleryMetrics::tileInset;
@@ -29,15 +38,15 @@ void addPreviews(StyleSheet& sheet)
         fmt::format("padding: {}px; border-radius: {}px; -gtk-outline-radius: {}px;", GalleryMetrics::tileInset, corner,
             corner));
     sheet.rule(".picture",
-        fmt::format("border-radius: {}px; background-color: {}; box-shadow: {};", GalleryMetrics::corner,
-            sheet.color(Palette::surface1), StyleSheet::shadow(fallingShadow(sheet.settings().colors))));
-    sheet.rule(".caption", fmt::format("padding: {}px {}px 0 {}px;", Space::s3, Space::s1, Space::s2));
+        fmt::format("border-radius: {}px; background-color: {}; {}", GalleryMetrics::corner,
+            sheet.color(Palette::surface1), edge(sheet)));
+    sheet.rule(".caption", fmt::format("padding-top: {}px;", Space::s3));
     sheet.rule(".add",
         fmt::format("min-height: {}px; padding: 0 {}px; border-radius: {}px; background-color: {}; "
                     "color: {}; {}",
             Space::macControlRegular, Space::s3, Radius::full, sheet.color(Palette::selectionFill),
             sheet.color(Palette::accentText), sheet.hoverTransition()));
-    sheet.rule("button.preview:hover .add, button.preview:focus .add",
+    sheet.rule("button.preview:hover .add,button.preview:focus .add",
         fmt::format(
             "background-color: {}; color: {};", sheet.color(Palette::accentFill), sheet.color(Palette::accentOn)));
 }
@@ -59,11 +68,7 @@ std::string galleryStyleSheet(const std::string& window, const StyleSettings& se
     StyleSheet sheet(window, settings);
     addPreviews(sheet);
     addWarning(sheet);
-    sheet.rule(".settings",
-        fmt::format("padding: {}px {}px; background-color: {}; border-top: 1px solid {}; "
-                    "border-radius: 0 0 {}px {}px;",
-            Space::s4, GalleryMetrics::margin, sheet.color(Palette::surface1), sheet.color(Palette::line),
-            Radius::macRadiusWindow, Radius::macRadiusWindow));
+    sheet.rule(".foot", fmt::format("padding: {}px {}px;", Space::s4, GalleryMetrics::margin));
     return sheet.text();
 }
 

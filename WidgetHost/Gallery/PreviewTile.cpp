@@ -49,11 +49,12 @@ void paint(const Context& context, const HostPicture& picture, std::span<const s
     const auto surface = Cairo::ImageSurface::create(
         reinterpret_cast<unsigned char*>(bytes), Cairo::FORMAT_ARGB32, width, height, static_cast<int>(picture.stride));
     context->save();
+    roundedRectangle(context, size, GalleryMetrics::corner);
+    context->clip();
     context->scale(size.width / width, size.height / height);
     context->set_source(surface, 0, 0);
+    context->paint();
     context->restore();
-    roundedRectangle(context, size, GalleryMetrics::corner);
-    context->fill();
     surface->finish();
 }
 

@@ -11,6 +11,7 @@
 namespace orvel {
 
 struct SettingsBar::Parts {
+    Gtk::Box bar;
     Gtk::Box& row = makeWrappingRow(static_cast<int>(Tokens::Space::s12), static_cast<int>(Tokens::Space::s3));
     Gtk::Box transparency { Gtk::ORIENTATION_HORIZONTAL, static_cast<int>(Tokens::Space::s3) };
     Gtk::Label transparencyLabel;
@@ -32,7 +33,7 @@ struct SettingsBar::Parts {
 SettingsBar::Parts::Parts(std::function<void(bool)> transparencyChosen, std::function<void(int)> textChosen)
     : reducesTransparencyChosen(std::move(transparencyChosen)), biggerTextChosen(std::move(textChosen))
 {
-    row.get_style_context()->add_class("settings");
+    bar.get_style_context()->add_class("foot");
     transparencyLabel.set_mnemonic_widget(transparencySwitch);
     transparencySwitch.set_valign(Gtk::ALIGN_CENTER);
     transparency.pack_start(transparencyLabel, Gtk::PACK_SHRINK);
@@ -50,7 +51,8 @@ SettingsBar::Parts::Parts(std::function<void(bool)> transparencyChosen, std::fun
     row.set_valign(Gtk::ALIGN_CENTER);
     row.add(transparency);
     row.add(text);
-    row.show_all();
+    bar.pack_start(row);
+    bar.show_all();
 
     transparencySwitch.property_active().signal_changed().connect([this] { takeSwitch(); });
     textScale.signal_value_changed().connect([this] { takeScale(); });
@@ -79,7 +81,7 @@ SettingsBar::~SettingsBar() = default;
 
 Gtk::Widget& SettingsBar::widget()
 {
-    return m_parts->row;
+    return m_parts->bar;
 }
 
 void SettingsBar::show(const GalleryContent& content)

@@ -24,6 +24,11 @@ protected:
         }
     }
 
+    void get_preferred_width_for_height_vfunc(int, int& least, int& natural) const override
+    {
+        get_preferred_width_vfunc(least, natural);
+    }
+
     void get_preferred_height_for_width_vfunc(int width, int& least, int& natural) const override
     {
         least = natural = arranged(width, [](Gtk::Widget&, const Gtk::Allocation&) {});
@@ -39,6 +44,7 @@ protected:
     void on_size_allocate(Gtk::Allocation& allocation) override
     {
         set_allocation(allocation);
+        auto clip = allocation;
         const bool isFromTheRight = get_direction() == Gtk::TEXT_DIR_RTL;
         arranged(allocation.get_width(), [&](Gtk::Widget& child, Gtk::Allocation place) {
             if (isFromTheRight)
@@ -46,7 +52,17 @@ protected:
             place.set_x(place.get_x() + allocation.get_x());
             place.set_y(place.get_y() + allocation.get_y());
             child.size_allocate(place);
+            clip.join(child.get_clip()); // shadows and focus rings fall beside the children's places
         });
+        set_clip(clip);
+    }
+
+    bool on_draw(const Cairo::RefPtr<Cairo::Context>& context) override
+    {
+        // A box draws itself where it laid itself out, which this one never did.
+        for (auto* child : get_children())
+            propagate_draw(*child, context);
+        return false;
     }
 
 private:

@@ -14,22 +14,35 @@ namespace Radius = Tokens::Radius;
 
 void StyleSheet::addWindow()
 {
-    rule("",
-        fmt::format("background-color: {}; color: {}; caret-color: {}; {}", color(Palette::bg),
-            color(Palette::textPrimary), color(Palette::accentText), font(MacTypeRole::body)));
     const auto& drop = *Tokens::Shadow::sheet.dusk.begin();
-    const auto frame =
+    const ShadowLayer falling {
+        .inset = false, .x = 0, .y = Space::s1, .blur = Space::s5, .spread = 0, .color = drop.color
+    };
+    rule("&",
+        fmt::format("background-color: {}; color: {}; border-radius: {}px; {}", color(Palette::bg),
+            color(Palette::textPrimary), Radius::macRadiusWindow, font(MacTypeRole::body)));
+    rule("decoration",
         fmt::format("border-radius: {}px; box-shadow: {}, 0 0 0 1px {}; margin: {}px;", Radius::macRadiusWindow,
-            shadow(ShadowLayer {
-                .inset = false, .x = 0, .y = Space::s1, .blur = Space::s5, .spread = 0, .color = drop.color }),
-            color(Palette::line), Space::s6);
-    rule("decoration", frame);
+            shadow(falling), color(Palette::line), Space::s3));
+    // The window's ground ends below its header.
     rule("headerbar",
         fmt::format("min-height: {}px; padding: 0 {}px; background-color: {}; border-radius: {}px {}px 0 0;",
             Space::s10, Space::s2, color(Palette::bg), Radius::macRadiusWindow, Radius::macRadiusWindow));
     rule("button.titlebutton",
         fmt::format("min-width: {}px; min-height: {}px; border-radius: {}px; color: {};", Space::macControlRegular,
             Space::macControlRegular, Radius::full, color(Palette::textSecondary)));
+    // Where a window manager knows no shadows that a window draws itself, the frame is what the window is resized by.
+    rule("&.solid-csd decoration",
+        fmt::format("border-radius: 0; box-shadow: none; margin: {}px; background-color: {}; "
+                    "border: 1px solid {};",
+            Space::s1, color(Palette::bg), color(Palette::line)));
+    rule(".foot",
+        fmt::format("background-color: {}; border-top: 1px solid {}; border-radius: 0 0 {}px {}px;",
+            color(Palette::surface1), color(Palette::line), Radius::macRadiusWindow, Radius::macRadiusWindow));
+    for (const std::string whole : { "&.maximized", "&.fullscreen", "&.tiled", "&.solid-csd" }) {
+        for (const auto* const part : { "", " headerbar", " .foot" })
+            rule(whole + part, "border-radius: 0;"); // no corner is in sight
+    }
 }
 
 void StyleSheet::addTexts()
@@ -52,7 +65,7 @@ void StyleSheet::addButtons()
     rule("button.capsule",
         fmt::format("min-height: {}px; padding: 0 {}px; border-radius: {}px; -gtk-outline-radius: {}px;",
             Space::macControlLarge, MacSpace::inset, Radius::full, Radius::full));
-    rule("switch, scale", ring(Radius::full));
+    rule("switch,scale", ring(Radius::full));
 }
 
 void StyleSheet::addSwitches()
@@ -71,6 +84,7 @@ void StyleSheet::addSwitches()
 void StyleSheet::addScales()
 {
     constexpr double knob = Space::macControlSmall, track = Space::s1;
+    rule("scale", fmt::format("padding: 0 {}px;", knob / 2)); // the knob's half beyond the ends
     rule("scale trough",
         fmt::format("min-height: {}px; min-width: {}px; border-radius: {}px; background-color: {};", track,
             Space::s16 * 2, Radius::full, color(Palette::ringTrack)));
@@ -85,6 +99,7 @@ void StyleSheet::addScales()
 
 void StyleSheet::addScrolling()
 {
+    rule("undershoot.top", fmt::format("box-shadow: inset 0 1px {};", color(Palette::line))); // more lies above
     rule("scrollbar slider",
         fmt::format("min-width: {}px; min-height: {}px; margin: 2px; border-radius: {}px; background-color: {};",
             MacSpace::close, Space::s10, Radius::full, color(Palette::ringTrack)));

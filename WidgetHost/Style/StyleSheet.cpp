@@ -4,7 +4,6 @@
 #include <fmt/format.h>
 #include <utility>
 
-#include "OrvelDesign/CardBackground.h"
 #include "OrvelDesign/Palette.h"
 #include "OrvelDesign/TokensMotion.h"
 
@@ -43,7 +42,9 @@ void StyleSheet::rule(std::string_view selector, std::string_view declarations)
     for (std::size_t start = 0; start <= selector.size();) {
         const auto end = std::min(selector.find(',', start), selector.size());
         const auto one = selector.substr(start, end - start);
-        everywhere += fmt::format("{}{}{}{}", start == 0 ? "" : ", ", m_window, one.empty() ? "" : " ", one);
+        const bool isOfTheWindow = one.starts_with('&');
+        everywhere += fmt::format(
+            "{}{}{}{}", start == 0 ? "" : ", ", m_window, isOfTheWindow ? "" : " ", one.substr(isOfTheWindow ? 1 : 0));
         start = end + 1;
     }
     m_text += fmt::format("{} {{ {} }}\n", everywhere, declarations);
@@ -72,9 +73,9 @@ std::string StyleSheet::shadow(const ShadowLayers& layers)
     return all.empty() ? "none" : all;
 }
 
-std::string StyleSheet::restingEdge() const
+std::string StyleSheet::edge(LitEdge edge) const
 {
-    const auto [layers, border] = cardEdge(LitEdge::resting, m_settings.colors);
+    const auto [layers, border] = cardEdge(edge, m_settings.colors);
     auto declarations = fmt::format("box-shadow: {};", shadow(layers));
     if (border)
         declarations += fmt::format(" border: {}px solid {};", border->width, orvel::text(border->color));

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "OrvelDesign/BiggerText.h"
+#include "OrvelDesign/CardBackground.h"
 #include "OrvelDesign/ColorFlags.h"
 #include "OrvelDesign/MacTypeRole.h"
 #include "OrvelDesign/OrvelColor.h"
@@ -26,10 +27,12 @@ struct StyleSettings {
 class StyleSheet {
 public:
     /// `window` is the window's name, by which its rules find it. It starts with the rules of everything that our
-    /// windows have in common: text classes named after the type roles, buttons, switches, scales, the window's frame.
+    /// windows have in common: text classes named after the type roles, "secondary" texts, "capsule" buttons, the bar
+    /// at a window's "foot", switches, scales, the window's frame.
     StyleSheet(std::string window, const StyleSettings& settings);
 
-    /// `selector` is looked for within the window; several may stand there, commas between. An empty one is the window.
+    /// `selector` is looked for within the window; several may stand there, commas between, without spaces. "&"
+    /// at its start is the window itself.
     void rule(std::string_view selector, std::string_view declarations);
 
     std::string color(const OrvelColor& color) const;
@@ -38,7 +41,7 @@ public:
     /// A value of the property box-shadow.
     static std::string shadow(const ShadowLayers& layers);
     /// The declarations of a card's edge: its light, or under increased contrast its line.
-    std::string restingEdge() const;
+    std::string edge(LitEdge edge) const;
     /// The declaration of how fast a control follows the pointer.
     std::string hoverTransition() const;
 
