@@ -37,8 +37,8 @@ void StyleSheet::addWindow()
                     "border: 1px solid {};",
             Space::s1, color(Palette::bg), color(Palette::line)));
     rule(".foot",
-        fmt::format("background-color: {}; border-top: 1px solid {}; border-radius: 0 0 {}px {}px;",
-            color(Palette::surface1), color(Palette::line), Radius::macRadiusWindow, Radius::macRadiusWindow));
+        fmt::format("border-top: 1px solid {}; border-radius: 0 0 {}px {}px;", color(Palette::line),
+            Radius::macRadiusWindow, Radius::macRadiusWindow));
     for (const std::string whole : { "&.maximized", "&.fullscreen", "&.tiled", "&.solid-csd" }) {
         for (const auto* const part : { "", " headerbar", " .foot" })
             rule(whole + part, "border-radius: 0;"); // no corner is in sight
