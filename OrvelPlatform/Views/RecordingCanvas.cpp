@@ -84,21 +84,6 @@ std::string_view nameOf(RecordingCanvas::Mark::Kind kind)
     return "";
 }
 
-std::string_view nameOf(ElementRole role)
-{
-    switch (role) {
-    case ElementRole::text:
-        return "text";
-    case ElementRole::button:
-        return "button";
-    case ElementRole::image:
-        return "image";
-    case ElementRole::group:
-        return "group";
-    }
-    return "";
-}
-
 std::string described(const ActionParameters& parameters)
 {
     std::string text;
@@ -213,7 +198,7 @@ std::string RecordingCanvas::text() const
 {
     auto text = m_lines;
     for (const auto& element : elements())
-        text += fmt::format("element {} {} \"{}\"\n", nameOf(element.role), described(element.frame), element.label);
+        text += fmt::format("element {} {} \"{}\"\n", rawValue(element.role), described(element.frame), element.label);
     for (const auto& action : actions())
         text += fmt::format("action {} \"{}\" {}{}\n", described(action.frame), action.label, action.intent,
             described(action.parameters));

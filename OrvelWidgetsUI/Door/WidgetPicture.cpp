@@ -63,21 +63,6 @@ Environment environment(const WidgetDrawing& drawing)
     return drawing.environment.with<WordsLocaleKey>(wordsLocale(drawing.words)).with<LayoutDirectionKey>(direction);
 }
 
-std::string_view roleName(ElementRole role)
-{
-    switch (role) {
-    case ElementRole::text:
-        return "text";
-    case ElementRole::button:
-        return "button";
-    case ElementRole::image:
-        return "image";
-    case ElementRole::group:
-        return "group";
-    }
-    return "text";
-}
-
 DrawnWidget::Frame enlarged(const Rect& frame, double by)
 {
     return { frame.x * by, frame.y * by, frame.width * by, frame.height * by };
@@ -113,7 +98,7 @@ std::expected<DrawnWidget, Fault> drawnHere(Renderer& renderer, const WidgetDraw
         return std::unexpected(std::move(drawn).error());
     DrawnWidget widget { picture->width, picture->height, *std::move(drawn), {}, {} };
     for (const auto& mark : picture->elements)
-        widget.elements.push_back({ std::string(roleName(mark.role)), mark.label, enlarged(mark.frame, by) });
+        widget.elements.push_back({ std::string(rawValue(mark.role)), mark.label, enlarged(mark.frame, by) });
     for (const auto& mark : picture->actions)
         widget.actions.push_back({ mark.label, enlarged(mark.frame, by), { mark.intent, mark.parameters } });
     return widget;

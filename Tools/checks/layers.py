@@ -45,6 +45,8 @@ BELOW = {
     "WidgetHost/Gallery": [
         "OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Desktop", "OrvelDesign", "WidgetHost/Style",
     ],
+    "WidgetHost/Words": ["OrvelPlatform/Base", "OrvelCopy/Lookup", "WidgetHost/State"],
+    "WidgetHost/Face": ["OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Desktop", "WidgetHost/State"],
 }
 
 # Headers of the system, and the folders that may see them; sources only where the folder's name ends in ".cpp".

@@ -122,10 +122,14 @@ private:
     {
         const auto english = Environment();
         samples("Long words", "Lines end where parts end; what has no room ends in an ellipsis.", longWords(), english);
-        samples("Japanese", "A script without spaces.", japaneseWords(),
-            english.with<WordsLocaleKey>(*Locale::named("ja")));
-        samples("Arabic", "Leading is at the right. The ring runs as clocks do.", arabicWords(),
-            english.with<WordsLocaleKey>(*Locale::named("ar")).with<LayoutDirectionKey>(LayoutDirection::rightToLeft));
+        const auto japanese = *Locale::named("ja");
+        Copy::inLanguage(japanese,
+            [&] { samples("Japanese", "A script without spaces.", japaneseWords(), wordsEnvironment(japanese)); });
+        const auto arabic = *Locale::named("ar");
+        Copy::inLanguage(arabic, [&] {
+            samples("Arabic", "Leading is at the right. The ring runs as clocks do.", arabicWords(),
+                wordsEnvironment(arabic));
+        });
         m_page.section("German", "The catalogue's own words.");
         const auto german = *Locale::named("de-DE");
         Copy::inLanguage(german, [&] {
