@@ -37,9 +37,19 @@ BELOW = {
     "WidgetHost": [
         "OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Drawing", "OrvelPlatform/Desktop",
         "OrvelCopy/Lookup", "OrvelDesign", "OrvelDesign/Drawn", "WidgetHost/Schedule", "WidgetHost/State",
+        "WidgetHost/Style", "WidgetHost/Gallery", "WidgetHost/Panel", "WidgetHost/Windows", "WidgetHost/Words", "WidgetHost/Face",
     ],
     "WidgetHost/Schedule": ["OrvelPlatform/Base", "OrvelPlatform/Desktop"],
     "WidgetHost/State": ["OrvelPlatform/Base"],
+    "WidgetHost/Style": ["OrvelPlatform/Base", "OrvelPlatform/Drawing", "OrvelDesign", "OrvelDesign/Drawn"],
+    "WidgetHost/Gallery": [
+        "OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Desktop", "OrvelDesign", "WidgetHost/Style",
+        "WidgetHost/Words",
+    ],
+    "WidgetHost/Panel": [
+        "OrvelPlatform/Base", "OrvelPlatform/Desktop", "OrvelDesign", "OrvelDesign/Drawn", "WidgetHost/Style",
+        "WidgetHost/Words", "WidgetHost/Windows",
+    ],
     "WidgetHost/Words": ["OrvelPlatform/Base", "OrvelCopy/Lookup", "WidgetHost/State"],
     "WidgetHost/Desk": [
         "OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Desktop", "OrvelDesign", "WidgetHost/Schedule",
@@ -58,7 +68,9 @@ SYSTEM = {
     r"simdjson": ["OrvelPlatform/Base"],
     r"(cairo|pango/|fontconfig/)": ["OrvelPlatform/Drawing"],
     r"(gio/|glib)": ["OrvelPlatform/Desktop", "WidgetHost", "WidgetHost/Windows.cpp"],
-    r"(gtk|gdk|X11/|wayland)": ["WidgetHost.cpp", "WidgetHost/Windows.cpp"],
+    r"(gtk|gdk|X11/|wayland)": [
+        "WidgetHost.cpp", "WidgetHost/Windows.cpp", "WidgetHost/Style.cpp", "WidgetHost/Gallery.cpp", "WidgetHost/Panel.cpp",
+    ],
 }
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
