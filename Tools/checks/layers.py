@@ -55,6 +55,14 @@ BELOW = {
         "OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Desktop", "OrvelDesign", "WidgetHost/Schedule",
         "WidgetHost/State", "WidgetHost/Words", "WidgetHost/Face",
     ],
+    "WidgetHost/Program": [
+        "OrvelPlatform/Base", "OrvelPlatform/Desktop", "OrvelDesign", "WidgetHost/State", "WidgetHost/Words",
+        "WidgetHost/Face", "WidgetHost/Desk", "WidgetHost/Gallery", "WidgetHost/Style",
+    ],
+    "WidgetHost/Program/Main": [
+        "OrvelPlatform/Base", "OrvelPlatform/Desktop", "WidgetHost/State", "WidgetHost/Words", "WidgetHost/Face",
+        "WidgetHost/Desk", "WidgetHost/Windows", "WidgetHost/Gallery", "WidgetHost/Program",
+    ],
     "WidgetHost/Face": ["OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Desktop", "WidgetHost/State"],
     "WidgetHost/Windows": [
         "OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Drawing", "OrvelPlatform/Desktop", "OrvelDesign",
@@ -67,9 +75,10 @@ SYSTEM = {
     r"(unicode/|absl/)": ["OrvelPlatform/Base"],
     r"simdjson": ["OrvelPlatform/Base"],
     r"(cairo|pango/|fontconfig/)": ["OrvelPlatform/Drawing"],
-    r"(gio/|glib)": ["OrvelPlatform/Desktop", "WidgetHost", "WidgetHost/Windows.cpp"],
+    r"(gio/|glib)": ["OrvelPlatform/Desktop", "WidgetHost", "WidgetHost/Windows.cpp", "WidgetHost/Program.cpp"],
     r"(gtk|gdk|X11/|wayland)": [
         "WidgetHost.cpp", "WidgetHost/Windows.cpp", "WidgetHost/Style.cpp", "WidgetHost/Gallery.cpp", "WidgetHost/Panel.cpp",
+        "WidgetHost/Program/Main.cpp",
     ],
 }
 
