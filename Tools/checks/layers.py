@@ -68,6 +68,8 @@ BELOW = {
         "OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Drawing", "OrvelPlatform/Desktop", "OrvelDesign",
         "OrvelDesign/Drawn", "WidgetHost/State", "WidgetHost/Face",
     ],
+    "WidgetHost/Controls": ["OrvelPlatform/Base", "OrvelPlatform/Desktop", "WidgetHost/Schedule"],
+    "WidgetHost/Tray": ["OrvelPlatform/Base", "OrvelPlatform/Desktop", "OrvelDesign", "OrvelDesign/Drawn"],
 }
 
 # Headers of the system, and the folders that may see them; sources only where the folder's name ends in ".cpp".
@@ -75,7 +77,9 @@ SYSTEM = {
     r"(unicode/|absl/)": ["OrvelPlatform/Base"],
     r"simdjson": ["OrvelPlatform/Base"],
     r"(cairo|pango/|fontconfig/)": ["OrvelPlatform/Drawing"],
-    r"(gio/|glib)": ["OrvelPlatform/Desktop", "WidgetHost", "WidgetHost/Windows.cpp", "WidgetHost/Program.cpp"],
+    r"(gio/|glib)": [
+        "OrvelPlatform/Desktop", "WidgetHost", "WidgetHost/Tray", "WidgetHost/Windows.cpp", "WidgetHost/Program.cpp",
+    ],
     r"(gtk|gdk|X11/|wayland)": [
         "WidgetHost.cpp", "WidgetHost/Windows.cpp", "WidgetHost/Style.cpp", "WidgetHost/Gallery.cpp", "WidgetHost/Panel.cpp",
         "WidgetHost/Program/Main.cpp",

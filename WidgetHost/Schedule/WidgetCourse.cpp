@@ -41,22 +41,6 @@ Answer<T> answerOf(TaskOutcome<Answer<T>> outcome)
     return std::unexpected(RequestFault { RequestFault::Kind::unavailable, "The request broke off." });
 }
 
-template <typename T>
-std::optional<T> earlier(std::optional<T> one, std::optional<T> other)
-{
-    return one && other ? std::min(one, other) : one ? one : other;
-}
-
-}
-
-void NextWake::include(std::optional<Date> other)
-{
-    date = earlier(date, other);
-}
-
-void NextWake::include(std::optional<Clock::Uptime> other)
-{
-    uptime = earlier(uptime, other);
 }
 
 WidgetCourse::WidgetCourse(
