@@ -119,6 +119,7 @@ void WidgetCourse::takePicture()
         return refusePicture(answer->error());
     m_shown.picture = std::make_shared<const HostPicture>(**std::move(answer));
     m_drawn = std::exchange(m_asked, std::nullopt);
+    m_shown.environment = m_drawn->environment;
     m_pictureAttempts.succeed();
 }
 

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <optional>
+
+#include "WidgetHost/Windows/CardViews.h"
+#include "WidgetHost/Windows/WindowPictures.h"
+
+struct _cairo;
+
+namespace orvel {
+
+/// Everything that is seen in a window.
+struct PaintedFace {
+    const WidgetFace& face;
+    const WindowGeometry& geometry;
+    CardGround ground;
+    const WindowPictures::Frame* frame; // null: the card has no edge
+    const Picture* words; // null: there are none
+    const WindowPictures::Ring* ring; // null: no button has the keyboard
+    bool isRingedInside; // the whole has the keyboard, and nothing can be seen round it
+    std::optional<Rect> pressed; // a button that is held down, in the window's points
+};
+
+/// Paints a window, as much of it as the context's clip lets through. A picture that was drawn for the window's pixels
+/// is copied as it is.
+void paint(_cairo* context, const PaintedFace& painted);
+
+}

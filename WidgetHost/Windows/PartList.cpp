@@ -1,0 +1,72 @@
+#include "WidgetHost/Windows/PartList.h"
+
+#include <algorithm>
+
+#include "OrvelPlatform/Base/RawValue.h"
+
+namespace orvel {
+
+namespace {
+
+bool contains(const PictureFrame& outer, const PictureFrame& inner)
+{
+    constexpr double error = 1;
+    return inner.x >= outer.x - error && inner.y >= outer.y - error
+        && inner.x + inner.width <= outer.x + outer.width + error
+        && inner.y + inner.height <= outer.y + outer.height + error;
+}
+
+bool isButtonOfAction(const PictureElement& element, const HostPicture& picture)
+{
+    return std::ranges::any_of(picture.actions, [&](const PictureAction& action) {
+        return contains(action.frame, element.frame)
+            || (element.role == "button" && contains(element.frame, action.frame));
+    });
+}
+
+std::string allThatIsSaid(const HostPicture& picture)
+{
+    std::string said;
+    for (const auto& element : picture.elements)
+        said += (said.empty() ? "" : "\n") + element.label;
+    return said;
+}
+
+}
+
+std::vector<ListedPart> partsOf(const WidgetFace& face, const WindowGeometry& geometry)
+{
+    const bool opens = face.picture && !face.picture->link.empty();
+    const auto said = face.picture ? allThatIsSaid(*face.picture) : std::string();
+    std::vector<ListedPart> parts { {
+        .meaning = { opens ? ElementRole::button : ElementRole::group, face.name, said, true },
+        .frame = geometry.card,
+        .opens = opens,
+    } };
+    if (!face.picture)
+        return parts;
+    const auto place = [&](const PictureFrame& frame) { return placeInWindow(frame, geometry, face.pointScale); };
+    for (const auto& element : face.picture->elements) {
+        if (isButtonOfAction(element, *face.picture))
+            continue;
+        const auto role = fromRawValue<ElementRole>(element.role).value_or(ElementRole::text);
+        parts.push_back({
+            .meaning = { role, element.label },
+            .frame = place(element.frame),
+            .opens = opens && role == ElementRole::button,
+        });
+    }
+    if (face.notice)
+        parts.push_back({ .meaning = { ElementRole::text, *face.notice }, .frame = geometry.card });
+    for (std::size_t index = 0; index < face.picture->actions.size(); ++index) {
+        const auto& action = face.picture->actions[index];
+        parts.push_back({
+            .meaning = { ElementRole::button, action.label, {}, true },
+            .frame = place(action.frame),
+            .action = index,
+        });
+    }
+    return parts;
+}
+
+}
