@@ -87,8 +87,13 @@ private:
 }
 
 class Gallery::Window {
+    GalleryEvents m_events; // first: the window's end is an event too
+
 public:
     explicit Window(GalleryEvents events);
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+    ~Window() { m_events = {}; } // nobody does what happens from now on
 
     void show(const GalleryContent& content);
 
@@ -99,7 +104,6 @@ private:
     void offer(const std::vector<GallerySection>& sections);
     void showWarning(const std::optional<GalleryWarning>& warning, const std::string& tryAgain);
 
-    GalleryEvents m_events;
     std::optional<GalleryContent> m_content;
     WindowStyle m_style { window, windowName };
     Gtk::HeaderBar m_header;
