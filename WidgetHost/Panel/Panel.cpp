@@ -64,7 +64,7 @@ Panel::Window::Window(PanelEvents events) : m_events(std::move(events))
 {
     window.set_decorated(false);
     window.set_resizable(false);
-    window.set_type_hint(Gdk::WINDOW_TYPE_HINT_UTILITY);
+    window.set_type_hint(Gdk::WINDOW_TYPE_HINT_DIALOG);
     window.set_skip_taskbar_hint();
     window.set_skip_pager_hint();
     window.set_keep_above();

@@ -17,12 +17,12 @@ void addSurface(StyleSheet& sheet)
 {
     auto drop = *(sheet.settings().colors.dark ? Tokens::Shadow::sheet.dusk : Tokens::Shadow::sheet.dawn).begin();
     drop.y = Space::s1;
-    drop.blur = Space::s5;
+    drop.blur = Space::s4;
     sheet.rule("&", "background-color: transparent;");
     sheet.rule(".surface",
         fmt::format("margin: {}px; padding: {}px; border-radius: {}px; background-color: {}; "
                     "border: 1px solid {}; box-shadow: {};",
-            Space::s6, Space::s4, Radius::macRadiusPopover, sheet.color(Palette::popoverFill),
+            Space::s8, Space::s4, Radius::macRadiusPopover, sheet.color(Palette::popoverFill),
             sheet.color(Palette::line), StyleSheet::shadow(drop)));
     sheet.rule("&.opaque .surface",
         fmt::format(

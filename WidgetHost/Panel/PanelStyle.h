@@ -12,7 +12,7 @@ inline constexpr double width = 168, height = 76; // at least
 inline constexpr double inset = 12; // at the sides
 inline constexpr double corner = 22;
 inline constexpr double circle = 40;
-inline constexpr double symbol = 15;
+inline constexpr double symbol = 20; // its box, which its lines do not fill
 inline constexpr double symbolGap = 10; // between circle and text
 inline constexpr double textGap = 1; // between title and value
 }
