@@ -87,8 +87,13 @@ private:
 }
 
 class Gallery::Window {
+    GalleryEvents m_events; // first: the window's end is an event too
+
 public:
     explicit Window(GalleryEvents events);
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+    ~Window() { m_events = {}; } // nobody does what happens from now on
 
     void show(const GalleryContent& content);
 
@@ -97,9 +102,9 @@ public:
 private:
     void arrange();
     void offer(const std::vector<GallerySection>& sections);
+    std::optional<std::pair<std::string, std::string>> focusedPreview() const;
     void showWarning(const std::optional<GalleryWarning>& warning, const std::string& tryAgain);
 
-    GalleryEvents m_events;
     std::optional<GalleryContent> m_content;
     WindowStyle m_style { window, windowName };
     Gtk::HeaderBar m_header;
@@ -205,11 +210,33 @@ void Gallery::Window::show(const GalleryContent& content)
 
 void Gallery::Window::offer(const std::vector<GallerySection>& sections)
 {
+    const auto focused = focusedPreview();
+    const bool isFirstOffer = m_sections.empty();
     m_sections.clear();
     for (const auto& section : sections) {
         auto& view = *m_sections.emplace_back(std::make_unique<SectionView>(section, m_events));
         m_page.pack_start(view.widget(), Gtk::PACK_SHRINK);
+        for (std::size_t i = 0; i < section.previews.size(); ++i) {
+            const bool isTheOne = focused == std::pair(section.kind, section.previews[i].family);
+            // Before there was a preview, the toolkit could only give the keyboard to a setting.
+            if (isTheOne || (isFirstOffer && &section == &sections.front() && i == 0))
+                view.tiles()[i]->widget().grab_focus();
+        }
     }
+}
+
+/// The kind and family of the preview that has the keyboard.
+std::optional<std::pair<std::string, std::string>> Gallery::Window::focusedPreview() const
+{
+    for (std::size_t section = 0; section < m_sections.size(); ++section) {
+        const auto& tiles = m_sections[section]->tiles();
+        const auto found = std::ranges::find_if(tiles, [](const auto& tile) { return tile->widget().is_focus(); });
+        if (found == tiles.end())
+            continue;
+        const auto& shown = m_content->sections[section];
+        return std::pair(shown.kind, shown.previews[static_cast<std::size_t>(found - tiles.begin())].family);
+    }
+    return std::nullopt;
 }
 
 void Gallery::Window::showWarning(const std::optional<GalleryWarning>& warning, const std::string& tryAgain)

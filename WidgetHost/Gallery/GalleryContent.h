@@ -8,6 +8,7 @@
 #include "OrvelPlatform/Desktop/HostPicture.h"
 #include "OrvelPlatform/Views/Geometry.h"
 #include "WidgetHost/Style/StyleSheet.h"
+#include "WidgetHost/Words/HostWords.h"
 
 namespace orvel {
 
@@ -46,6 +47,8 @@ struct GalleryWords {
     std::string tryAgain; // "Try Again"
     bool operator==(const GalleryWords&) const = default;
 };
+
+GalleryWords galleryWords(const HostWords& words);
 
 /// All that the gallery shows.
 struct GalleryContent {
