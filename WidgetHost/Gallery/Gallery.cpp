@@ -219,7 +219,7 @@ void Gallery::Window::offer(const std::vector<GallerySection>& sections)
         for (std::size_t i = 0; i < section.previews.size(); ++i) {
             const bool isTheOne = focused == std::pair(section.kind, section.previews[i].family);
             // Before there was a preview, the toolkit could only give the keyboard to a setting.
-            if (isTheOne || isFirstOffer && &section == &sections.front() && i == 0)
+            if (isTheOne || (isFirstOffer && &section == &sections.front() && i == 0))
                 view.tiles()[i]->widget().grab_focus();
         }
     }

@@ -23,10 +23,9 @@ struct Typed {
     {
         auto* add =
             app.add_option("--add", kind, "Add a widget of this kind; --list tells the kinds")->type_name("KIND");
-        app.add_option("--size", size, "Its size: small, medium or large")->type_name("SIZE")->needs(add);
+        app.add_option("--size", size, "Its size: small, medium or large")->type_name("SIZE");
         app.add_option("--look", look, "Its look: automatic (without this option), dusk, dawn, mono or clear")
-            ->type_name("LOOK")
-            ->needs(add);
+            ->type_name("LOOK");
         auto* background = app.add_flag("--background", isInBackground, "Show no gallery, as for a start at login");
         auto* gallery = app.add_flag("--gallery", isGallery, "Show the gallery");
         auto* list = app.add_flag("--list", isList, "List the widgets on the desktop, and those that can be added");
@@ -49,11 +48,13 @@ std::unexpected<CallEnd> wrong(std::string why)
 
 std::expected<HostCall, CallEnd> addition(const Typed& typed)
 {
-    if (typed.size.empty())
-        return wrong("--add needs --size: small, medium or large");
     auto family = familyOfSize(typed.size);
-    if (!family)
+    if (!typed.size.empty() && !family)
         return wrong(fmt::format("--size {} is none of small, medium and large", typed.size));
+    if (typed.kind.empty())
+        return wrong("--size and --look go with --add KIND");
+    if (!family)
+        return wrong("--add needs --size: small, medium or large");
     const auto look = fromRawValue<ChosenLook>(typed.look.empty() ? "automatic" : typed.look);
     if (!look)
         return wrong(fmt::format("--look {} is none of automatic, dusk, dawn, mono and clear", typed.look));
@@ -88,7 +89,7 @@ std::expected<HostCall, CallEnd> hostCall(int argc, const char* const* argv)
         } catch (const CLI::CallForVersion& version) {
             return std::unexpected(CallEnd { std::string(version.what()) + "\n", false });
         }
-        return understood(typed, app.count("--add") > 0);
+        return understood(typed, app.count("--add") + app.count("--size") + app.count("--look") > 0);
     } catch (const std::exception& error) {
         return wrong(error.what());
     }

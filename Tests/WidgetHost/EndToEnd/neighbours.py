@@ -1,5 +1,6 @@
 """What a desktop has beside a widget host, played for tests: the settings portal, and the application."""
 
+import queue
 import threading
 
 from gi.repository import Gio, GLib
@@ -100,7 +101,10 @@ class Neighbours:
 
     def start_application(self):
         """From now on an application runs that takes intents; its returned token ends that."""
-        token = self.register("/app/orvel/Orvel", INTENTS, self.intent_came)
+        tokens = queue.SimpleQueue()
+        # Calls come to the thread in which an object is registered.
+        self.context.invoke_full(0, lambda: tokens.put(self.register("/app/orvel/Orvel", INTENTS, self.intent_came)))
+        token = tokens.get(timeout=5)
         self.own("app.orvel.Orvel")
         return token
 

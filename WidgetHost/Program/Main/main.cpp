@@ -96,11 +96,23 @@ void begin(HostApplication& host, const HostCall::Task& task)
         task);
 }
 
+/// False without a display. No window here draws with GL, whose libraries would take more memory than all the rest.
+bool startToolkit()
+{
+    const auto hasOwn = g_getenv("GDK_GL") != nullptr;
+    g_setenv("GDK_GL", "disable", false);
+    const auto hasDisplay = gtk_init_check(nullptr, nullptr);
+    if (!hasOwn)
+        g_unsetenv("GDK_GL"); // applications that we start may draw as they like
+    if (hasDisplay)
+        Gtk::Main::init_gtkmm_internals();
+    return hasDisplay;
+}
+
 Exit run(EventLoop& loop, SingleInstance& instance, const HostCall::Task& task)
 {
-    if (!gtk_init_check(nullptr, nullptr))
+    if (!startToolkit())
         return fail("there is no display to show widgets on; DISPLAY or WAYLAND_DISPLAY names one");
-    Gtk::Main::init_gtkmm_internals();
     const auto end = [&] { loop.quit(); };
     HostApplication host(loop, end);
     if (const auto warning = host.desk().warning())
