@@ -3,6 +3,7 @@
 #include <cmath>
 #include <utility>
 
+#include "OrvelDesign/TokensSpace.h"
 #include "WidgetHost/Windows/ActivationToken.h"
 #include "WidgetHost/Windows/CardViews.h"
 #include "WidgetHost/Windows/FacePainter.h"
@@ -12,6 +13,12 @@
 #include <gtkmm.h>
 
 namespace orvel {
+
+namespace {
+
+constexpr double fineStep = Tokens::Space::s1;
+
+}
 
 WindowContent::WindowContent(DesktopWindows& windows, std::optional<WidgetPlace> place, WidgetWindowEvents events)
     : m_windows(windows), m_events(std::move(events)), m_place(std::move(place))
@@ -60,8 +67,8 @@ void WindowContent::show(WidgetFace face)
         layOut();
     else if (changed.parts || changed.notice)
         m_parts->show(*m_face, m_geometry);
-    if (changed.card || changed.notice)
-        m_words = m_windows.pictures().words(*m_face, m_geometry);
+    if (!changed.card && changed.notice)
+        makeNotice();
     repaint(changed);
     m_toolkit.window().set_title(m_face->name);
     if (isFirst)
@@ -76,9 +83,20 @@ void WindowContent::layOut()
     m_toolkit.takePointerIn(rowsOfCard(m_geometry));
     m_toolkit.saySurround(static_cast<int>(m_geometry.card.x));
     makeFrame();
+    m_placeholder = m_windows.pictures().placeholder(*m_face, m_geometry);
+    makeNotice();
     putInPlace();
     if (std::exchange(m_toldScale, scale) != scale && m_events.scaleChanged)
         m_events.scaleChanged(scale);
+}
+
+void WindowContent::makeNotice()
+{
+    if (m_notice)
+        m_toolkit.repaint(m_notice->place);
+    m_notice = m_windows.pictures().notice(*m_face, m_geometry);
+    if (m_notice)
+        m_toolkit.repaint(m_notice->place);
 }
 
 void WindowContent::surroundingsChanged()
@@ -86,7 +104,6 @@ void WindowContent::surroundingsChanged()
     if (!m_face)
         return;
     layOut();
-    m_words = m_windows.pictures().words(*m_face, m_geometry);
     m_toolkit.window().queue_draw();
 }
 
@@ -102,9 +119,6 @@ void WindowContent::repaint(const FaceChange& change)
     } else if (change.pixels) {
         m_toolkit.repaint(card);
     }
-    const double foot = CardNotice::height * m_face->pointScale + 1;
-    if (change.notice)
-        m_toolkit.repaint({ card.x, card.bottom() - foot, card.width, foot });
 }
 
 bool WindowContent::showsFocus() const
@@ -145,8 +159,7 @@ void WindowContent::paint(_cairo* context)
             .geometry = m_geometry,
             .ground = cardGround(*m_face, m_toolkit.isComposited()),
             .frame = m_frame.get(),
-            .words = m_words.get(),
-            .ring = m_ring.get(),
+            .pictures = { m_placeholder.get(), m_notice.get(), m_ring.get() },
             .isRingedInside = m_geometry.card.x == 0 && showsFocus() && !m_parts->focusedAction(),
             .pressed = held });
 }
@@ -277,10 +290,10 @@ void WindowContent::released(const PointerPlace& pointer, std::uint32_t time)
 
 bool WindowContent::keyPressed(const KeyPress& press)
 {
-    const auto [key, isAlt, isShift, time] = press;
+    const auto& [key, isAlt, isControl, isShift, time] = press;
     m_eventTime = time;
-    const double step = isShift ? 4 : placeGap;
-    const auto move = [&, isHeld = isAlt](double x, double y) {
+    const double step = isControl ? fineStep : placeGap;
+    const auto move = [&, isHeld = isAlt != isControl](double x, double y) {
         if (isHeld)
             moveBy(x * step, y * step);
         return isHeld;

@@ -38,6 +38,7 @@ private:
 
     // What is seen.
     void layOut();
+    void makeNotice();
     void surroundingsChanged();
     void repaint(const FaceChange& change);
     void repaintAll();
@@ -73,8 +74,9 @@ private:
     std::int64_t m_shownSince = 0; // monotonic microseconds
 
     std::shared_ptr<const WindowPictures::Frame> m_frame;
-    std::shared_ptr<const Picture> m_words;
-    std::shared_ptr<const WindowPictures::Ring> m_ring;
+    std::shared_ptr<const WindowPictures::Placed> m_placeholder;
+    std::shared_ptr<const WindowPictures::Placed> m_notice;
+    std::shared_ptr<const WindowPictures::Placed> m_ring;
 
     WindowToolkit m_toolkit;
     std::unique_ptr<WindowSurface> m_surface;
