@@ -161,11 +161,16 @@ void paintInnerRing(cairo_t* context, const PaintedFace& painted)
 
 }
 
-void paint(cairo_t* context, const PaintedFace& painted)
+void paintNothing(cairo_t* context)
 {
     cairo_set_operator(context, CAIRO_OPERATOR_CLEAR);
     cairo_paint(context);
     cairo_set_operator(context, CAIRO_OPERATOR_OVER);
+}
+
+void paint(cairo_t* context, const PaintedFace& painted)
+{
+    paintNothing(context);
     const auto& [face, geometry, ground, frame, pictures, isRingedInside, pressed] = painted;
     const auto card = cardInPixels(geometry);
     {

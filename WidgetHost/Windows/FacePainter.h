@@ -25,4 +25,7 @@ struct PaintedFace {
 /// is copied as it is.
 void paint(_cairo* context, const PaintedFace& painted);
 
+/// Leaves only what lies below to be seen.
+void paintNothing(_cairo* context);
+
 }

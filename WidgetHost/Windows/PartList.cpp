@@ -24,6 +24,14 @@ bool isButtonOfAction(const PictureElement& element, const HostPicture& picture)
     });
 }
 
+/// What of a frame lies on the card: light and long words may reach beyond it, where there is no window any more.
+Rect onCard(const Rect& frame, const Rect& card)
+{
+    const double left = std::clamp(frame.x, card.x, card.right()), top = std::clamp(frame.y, card.y, card.bottom());
+    return { left, top, std::clamp(frame.right(), left, card.right()) - left,
+        std::clamp(frame.bottom(), top, card.bottom()) - top };
+}
+
 std::string allThatIsSaid(const HostPicture& picture)
 {
     std::string said;
@@ -45,7 +53,9 @@ std::vector<ListedPart> partsOf(const WidgetFace& face, const WindowGeometry& ge
     } };
     if (!face.picture)
         return parts;
-    const auto place = [&](const PictureFrame& frame) { return placeInWindow(frame, geometry, face.pointScale); };
+    const auto place = [&](const PictureFrame& frame) {
+        return onCard(placeInWindow(frame, geometry, face.pointScale), geometry.card);
+    };
     for (const auto& element : face.picture->elements) {
         if (isButtonOfAction(element, *face.picture))
             continue;

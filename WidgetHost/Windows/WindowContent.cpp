@@ -23,7 +23,7 @@ constexpr double fineStep = Tokens::Space::s1;
 WindowContent::WindowContent(DesktopWindows& windows, std::optional<WidgetPlace> place, WidgetWindowEvents events)
     : m_windows(windows), m_events(std::move(events)), m_place(std::move(place))
 {
-    m_surface = WindowSurface::of(m_toolkit.window());
+    m_surface = WindowSurface::of(m_toolkit.window(), [this](_cairo* context) { paintCard(context); });
     m_parts = std::make_unique<WidgetParts>(m_toolkit.window(),
         WidgetParts::Doing {
             [this] { open(); }, [this](std::size_t action) { act(action); }, [this] { repaintAll(); } });
@@ -147,6 +147,14 @@ void WindowContent::repaintAll()
 }
 
 void WindowContent::paint(_cairo* context)
+{
+    if (m_surface->isLifted())
+        return paintNothing(context);
+    paintCard(context);
+    m_surface->settled();
+}
+
+void WindowContent::paintCard(_cairo* context)
 {
     if (!m_face)
         return;

@@ -44,6 +44,7 @@ private:
     void repaintAll();
     void makeFrame();
     void paint(_cairo* context);
+    void paintCard(_cairo* context);
     bool showsFocus() const;
 
     // Where it is.
