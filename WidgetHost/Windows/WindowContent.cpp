@@ -65,7 +65,7 @@ void WindowContent::show(WidgetFace face)
     m_face = std::move(face);
     if (changed.card)
         layOut();
-    else if (changed.parts || changed.notice)
+    else if (changed.parts)
         m_parts->show(*m_face, m_geometry);
     if (!changed.card && changed.notice)
         makeNotice();
