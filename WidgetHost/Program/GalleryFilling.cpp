@@ -23,18 +23,6 @@ GallerySection section(const Desk& desk, const ExtensionMember& member, const Ho
     return section;
 }
 
-GalleryWords galleryWords(const HostWords& words)
-{
-    return {
-        .title = words.galleryTitle(),
-        .add = words.add(),
-        .added = words.added(),
-        .reduceTransparency = words.reduceTransparency(),
-        .biggerText = words.biggerText(),
-        .tryAgain = words.tryAgain(),
-    };
-}
-
 StyleSettings style(const Surroundings& around)
 {
     const auto& appearance = around.appearance;
