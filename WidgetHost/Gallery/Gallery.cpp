@@ -59,6 +59,7 @@ public:
                 }));
             m_row.add(tile.widget());
         }
+        m_row.set_margin_top(static_cast<int>(Space::s1));
         m_column.pack_start(m_name, Gtk::PACK_SHRINK);
         m_column.pack_start(m_description, Gtk::PACK_SHRINK);
         m_column.pack_start(m_row, Gtk::PACK_SHRINK);
