@@ -54,7 +54,7 @@ private:
     Gtk::Box m_surface { Gtk::ORIENTATION_VERTICAL, static_cast<int>(Space::s3) };
     Gtk::Label m_notice;
     Gtk::Box m_row { Gtk::ORIENTATION_HORIZONTAL, static_cast<int>(Space::s3) };
-    Gtk::Box m_foot { Gtk::ORIENTATION_HORIZONTAL };
+    Gtk::Box m_foot { Gtk::ORIENTATION_HORIZONTAL, static_cast<int>(Space::s4) };
     Gtk::Button m_gallery;
     Gtk::Button m_quit;
     std::vector<std::unique_ptr<ControlTile>> m_tiles;
