@@ -108,8 +108,8 @@ std::unique_ptr<icu::ListFormatter> listFormatter(const icu::Locale& locale, UEr
 
 }
 
-/// What the formats of one locale need, each made when first asked for. ICU does not promise that a formatter may be
-/// used from two threads at once, so that one lock covers making and using.
+/// What the formats of one locale need, and what its name means, each made when first asked for. ICU does not promise
+/// that a formatter may be used from two threads at once, so that one lock covers making and using.
 class Locale::Formats {
 public:
     explicit Formats(std::string identifier) : m_identifier(std::move(identifier)) { }
@@ -131,6 +131,15 @@ public:
     {
         const std::scoped_lock lock(m_mutex);
         return kept(m_veryShortWeekdays, veryShortWeekdays);
+    }
+
+    /// Never changed again once they are made, and never empty then.
+    const std::vector<std::string>& languageAndParents()
+    {
+        const std::scoped_lock lock(m_mutex);
+        if (m_languageAndParents.empty())
+            m_languageAndParents = Locale::languageAndParents(m_identifier);
+        return m_languageAndParents;
     }
 
     std::string list(const std::vector<icu::UnicodeString>& names)
@@ -156,6 +165,7 @@ private:
     std::unique_ptr<Clock> m_clock;
     std::unique_ptr<Weekdays> m_veryShortWeekdays;
     std::unique_ptr<icu::ListFormatter> m_list;
+    std::vector<std::string> m_languageAndParents;
 };
 
 /// Requests name locales again and again, so that the last few stay. The number is bounded, because anyone on the
@@ -182,6 +192,11 @@ std::shared_ptr<Locale::Formats> Locale::formats(const std::string& identifier)
     }
     std::rotate(entries.begin(), found, found + 1);
     return entries.front().second;
+}
+
+const std::vector<std::string>& Locale::languageAndParents() const
+{
+    return m_formats->languageAndParents();
 }
 
 std::string Locale::time(WallTime wallTime) const
