@@ -29,6 +29,14 @@ std::optional<std::string_view> line(std::string_view symbols, std::string_view 
     return std::nullopt;
 }
 
+/// The file of all symbols, read once: controls are asked for again and again.
+const std::string& symbolFile()
+{
+    static const auto text =
+        readFile(designBundle().resources() / "Symbols.txt", largestSymbolFile).value_or(std::string());
+    return text;
+}
+
 std::string path(std::string_view part)
 {
     const std::string_view fill = part.starts_with('F') ? R"( fill="currentColor")" : "";
@@ -39,8 +47,7 @@ std::string path(std::string_view part)
 
 std::optional<std::string> symbolIcon(std::string_view name)
 {
-    const auto symbols = readFile(designBundle().resources() / "Symbols.txt", largestSymbolFile);
-    auto parts = symbols ? line(*symbols, name) : std::nullopt;
+    auto parts = line(symbolFile(), name);
     if (!parts || parts->empty())
         return std::nullopt;
     std::string svg(opening);

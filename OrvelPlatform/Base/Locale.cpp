@@ -197,9 +197,9 @@ std::string Locale::uppercased(std::string_view text) const
     return capitals;
 }
 
-std::vector<std::string> Locale::languageAndParents() const
+std::vector<std::string> Locale::languageAndParents(const std::string& identifier)
 {
-    const auto own = icuLocale(m_identifier);
+    const auto own = icuLocale(identifier);
     const auto full = withLikelySubtags(own);
     const std::string_view language = own.getLanguage();
     const std::string_view script = full.getScript();
@@ -208,7 +208,7 @@ std::vector<std::string> Locale::languageAndParents() const
         if (!name.empty() && std::ranges::find(names, name) == names.end())
             names.push_back(std::move(name));
     };
-    add(m_identifier.substr(0, std::min(m_identifier.find("-u-"), m_identifier.size())));
+    add(identifier.substr(0, std::min(identifier.find("-u-"), identifier.size())));
     add(joined({ language, own.getScript(), own.getCountry() }));
     add(joined({ language, script, full.getCountry() }));
     add(joined({ language, script }));

@@ -47,7 +47,7 @@ public:
 
     /// The identifiers under which words of this locale may be kept, the closest first: the locale itself without
     /// extensions, then its parents. Of de-AT the last is de; of zh-TW it is zh-Hant and never zh, another script.
-    std::vector<std::string> languageAndParents() const;
+    const std::vector<std::string>& languageAndParents() const;
 
     /// The time of day in the short style, without a date: "09:05", "9:05 AM" (there with U+202F before AM).
     std::string time(WallTime wallTime) const;
@@ -72,6 +72,7 @@ private:
 
     explicit Locale(std::string identifier);
     static std::shared_ptr<Formats> formats(const std::string& identifier);
+    static std::vector<std::string> languageAndParents(const std::string& identifier);
 
     std::string m_identifier;
     std::shared_ptr<Formats> m_formats;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <mutex>
+#include <tuple>
 #include <unicode/dtfmtsym.h>
 #include <unicode/dtptngen.h>
 #include <unicode/listformatter.h>
@@ -47,13 +48,30 @@ auto madeFor(const std::string& identifier, Make make)
 
 using Formatter = std::unique_ptr<icu::SimpleDateFormat>;
 
-Formatter formatter(
-    const icu::Locale& locale, icu::DateTimePatternGenerator& patterns, const char16_t* skeleton, UErrorCode& status)
+/// The formatters that come of a pattern generator know what a locale shows best, but nothing is slower to make.
+Formatter bestFormatter(const icu::Locale& locale, const char16_t* skeleton, UErrorCode& status)
 {
-    const auto pattern = patterns.getBestPattern(skeleton, status);
-    auto made = std::make_unique<icu::SimpleDateFormat>(pattern, locale, status);
-    made->adoptTimeZone(icu::TimeZone::getGMT()->clone());
-    return made;
+    const std::unique_ptr<icu::DateTimePatternGenerator> patterns(
+        icu::DateTimePatternGenerator::createInstance(locale, status));
+    if (U_FAILURE(status))
+        return nullptr;
+    return std::make_unique<icu::SimpleDateFormat>(patterns->getBestPattern(skeleton, status), locale, status);
+}
+
+/// The short time that is written down for a locale. But for a few locales, which leave zeros away or name the part of
+/// the day there, it is their best; of a locale that only resembles a known one it says nothing: its region or an
+/// extension may want another clock.
+Formatter writtenClock(const icu::Locale& locale)
+{
+    std::unique_ptr<icu::DateFormat> made(icu::DateFormat::createTimeInstance(icu::DateFormat::kShort, locale));
+    auto* const clock = dynamic_cast<icu::SimpleDateFormat*>(made.get());
+    auto status = U_ZERO_ERROR;
+    icu::UnicodeString pattern;
+    if (!clock || clock->getLocale(ULOC_VALID_LOCALE, status) != locale || U_FAILURE(status)
+        || clock->toPattern(pattern).indexOf(u"mm", 2, 0) < 0 || pattern.indexOf(u'B') >= 0)
+        return nullptr;
+    std::ignore = made.release();
+    return Formatter(clock);
 }
 
 std::string formatted(const icu::SimpleDateFormat& format, WallTime wallTime)
@@ -64,26 +82,26 @@ std::string formatted(const icu::SimpleDateFormat& format, WallTime wallTime)
 
 using Weekdays = std::array<std::string, 7>;
 
-/// The formatters that come of one pattern generator, which is by far the slowest of all to make and not needed again.
-struct Clock {
-    Formatter time;
-    Weekdays abbreviatedWeekdays;
-};
-
-std::unique_ptr<Clock> clock(const icu::Locale& locale, UErrorCode& status)
+Formatter clock(const icu::Locale& locale, UErrorCode& status)
 {
-    const std::unique_ptr<icu::DateTimePatternGenerator> patterns(
-        icu::DateTimePatternGenerator::createInstance(locale, status));
+    auto made = writtenClock(locale);
+    if (!made)
+        made = bestFormatter(locale, u"jmm", status);
+    if (made)
+        made->adoptTimeZone(icu::TimeZone::getGMT()->clone());
+    return made;
+}
+
+std::unique_ptr<Weekdays> abbreviatedWeekdays(const icu::Locale& locale, UErrorCode& status)
+{
+    const auto weekday = bestFormatter(locale, u"E", status);
     if (U_FAILURE(status))
         return nullptr;
-    auto made = std::make_unique<Clock>();
-    made->time = formatter(locale, *patterns, u"jmm", status);
-    const auto weekdays = formatter(locale, *patterns, u"E", status);
-    if (U_FAILURE(status))
-        return nullptr;
+    weekday->adoptTimeZone(icu::TimeZone::getGMT()->clone());
+    auto made = std::make_unique<Weekdays>();
     constexpr std::chrono::local_days aSunday { std::chrono::year { 2023 } / 1 / 1 };
-    for (auto day = aSunday; auto& name : made->abbreviatedWeekdays)
-        name = formatted(*weekdays, day++);
+    for (auto day = aSunday; auto& name : *made)
+        name = formatted(*weekday, day++);
     return made;
 }
 
@@ -108,8 +126,8 @@ std::unique_ptr<icu::ListFormatter> listFormatter(const icu::Locale& locale, UEr
 
 }
 
-/// What the formats of one locale need, each made when first asked for. ICU does not promise that a formatter may be
-/// used from two threads at once, so that one lock covers making and using.
+/// What the formats of one locale need, and what its name means, each made when first asked for. ICU does not promise
+/// that a formatter may be used from two threads at once, so that one lock covers making and using.
 class Locale::Formats {
 public:
     explicit Formats(std::string identifier) : m_identifier(std::move(identifier)) { }
@@ -117,13 +135,13 @@ public:
     std::string time(WallTime wallTime)
     {
         const std::scoped_lock lock(m_mutex);
-        return formatted(*kept(m_clock, clock).time, wallTime);
+        return formatted(kept(m_clock, clock), wallTime);
     }
 
     std::string abbreviatedWeekday(unsigned sundayIsZero)
     {
         const std::scoped_lock lock(m_mutex);
-        return kept(m_clock, clock).abbreviatedWeekdays[sundayIsZero];
+        return kept(m_abbreviatedWeekdays, abbreviatedWeekdays)[sundayIsZero];
     }
 
     /// Never changed again once it is made.
@@ -131,6 +149,15 @@ public:
     {
         const std::scoped_lock lock(m_mutex);
         return kept(m_veryShortWeekdays, veryShortWeekdays);
+    }
+
+    /// Never changed again once they are made, and never empty then.
+    const std::vector<std::string>& languageAndParents()
+    {
+        const std::scoped_lock lock(m_mutex);
+        if (m_languageAndParents.empty())
+            m_languageAndParents = Locale::languageAndParents(m_identifier);
+        return m_languageAndParents;
     }
 
     std::string list(const std::vector<icu::UnicodeString>& names)
@@ -153,9 +180,11 @@ private:
 
     std::string m_identifier;
     std::mutex m_mutex;
-    std::unique_ptr<Clock> m_clock;
+    Formatter m_clock;
+    std::unique_ptr<Weekdays> m_abbreviatedWeekdays;
     std::unique_ptr<Weekdays> m_veryShortWeekdays;
     std::unique_ptr<icu::ListFormatter> m_list;
+    std::vector<std::string> m_languageAndParents;
 };
 
 /// Requests name locales again and again, so that the last few stay. The number is bounded, because anyone on the
@@ -182,6 +211,11 @@ std::shared_ptr<Locale::Formats> Locale::formats(const std::string& identifier)
     }
     std::rotate(entries.begin(), found, found + 1);
     return entries.front().second;
+}
+
+const std::vector<std::string>& Locale::languageAndParents() const
+{
+    return m_formats->languageAndParents();
 }
 
 std::string Locale::time(WallTime wallTime) const

@@ -54,44 +54,86 @@ std::optional<TimeZone> zoneNamed(const std::string& name)
     return posixRule(name) ? std::optional(TimeZone::forSetting(name.c_str())) : std::nullopt;
 }
 
+/// The values of the keys that are known, found in one go: every request has an environment. Of a key that is repeated
+/// the first counts.
+class KnownValues {
+public:
+    explicit KnownValues(_GVariant* dictionary)
+    {
+        GVariantIter iterator;
+        g_variant_iter_init(&iterator, dictionary);
+        while (const VariantHandle entry { g_variant_iter_next_value(&iterator) }) {
+            const VariantHandle key(g_variant_get_child_value(entry.get(), 0));
+            const auto index = indexOf(g_variant_get_string(key.get(), nullptr));
+            if (index == keys.size() || m_values.at(index))
+                continue;
+            const VariantHandle boxed(g_variant_get_child_value(entry.get(), 1));
+            m_values.at(index).reset(g_variant_get_variant(boxed.get()));
+        }
+    }
+
+    /// Null where there is none.
+    _GVariant* find(std::string_view key) const { return m_values.at(indexOf(key)).get(); }
+
+private:
+    static constexpr std::array<std::string_view, 16> keys { "family", "isPreview", "renderingMode", "colorScheme",
+        "contrast", "reduceMotion", "reduceTransparency", "personalAccent", "textScale", "biggerText", "locale",
+        "language", "timeZone", "scale", "background", "format" };
+
+    static std::size_t indexOf(std::string_view key)
+    {
+        return static_cast<std::size_t>(std::ranges::find(keys, key) - keys.begin());
+    }
+
+    std::array<VariantHandle, keys.size()> m_values;
+};
+
 /// Reads key by key and keeps the first fault.
 class EnvironmentReader {
 public:
-    explicit EnvironmentReader(_GVariant* dictionary) : m_dictionary(dictionary) { }
+    explicit EnvironmentReader(_GVariant* dictionary) : m_values(dictionary) { }
 
-    template <typename Read>
-    auto value(const char* key, std::string_view expected, Read read) -> decltype(read(nullptr))
+    /// `expected` says what the value has to be; it is asked only when the value is something else.
+    template <typename Expected, typename Read>
+    auto value(std::string_view key, Expected expected, Read read) -> decltype(read(nullptr))
     {
-        const auto found = lookUp(m_dictionary, key);
+        auto* const found = m_values.find(key);
         if (!found)
             return std::nullopt;
-        auto result = read(found.get());
+        auto result = read(found);
         if (!result)
-            refuse(key, expected);
+            refuse(key, expected());
         return result;
     }
 
-    std::optional<bool> truth(const char* key) { return value(key, "a truth value", &orvel::truth); }
-
-    std::optional<double> number(const char* key, double least, double most)
+    std::optional<bool> truth(std::string_view key)
     {
-        return value(key, fmt::format("a number from {} to {}", least, most), [=](_GVariant* found) {
+        return value(
+            key, [] { return "a truth value"; }, &orvel::truth);
+    }
+
+    std::optional<double> number(std::string_view key, double least, double most)
+    {
+        const auto expected = [=] { return fmt::format("a number from {} to {}", least, most); };
+        return value(key, expected, [=](_GVariant* found) {
             const auto read = orvel::number(found);
             return read && *read >= least && *read <= most ? read : std::nullopt;
         });
     }
 
-    std::optional<int> steps(const char* key, int most)
+    std::optional<int> steps(std::string_view key, int most)
     {
-        return value(key, fmt::format("a whole number from 0 to {}", most), [=](_GVariant* found) {
+        const auto expected = [=] { return fmt::format("a whole number from 0 to {}", most); };
+        return value(key, expected, [=](_GVariant* found) {
             const auto read = wholeNumber(found);
             return read && *read >= 0 && *read <= most ? std::optional(static_cast<int>(*read)) : std::nullopt;
         });
     }
 
-    std::optional<std::string> choice(const char* key, std::span<const std::string_view> allowed)
+    std::optional<std::string> choice(std::string_view key, std::span<const std::string_view> allowed)
     {
-        return value(key, "one of " + quotedList(allowed), [=](_GVariant* found) {
+        const auto expected = [=] { return "one of " + quotedList(allowed); };
+        return value(key, expected, [=](_GVariant* found) {
             auto read = text(found);
             return read && std::ranges::find(allowed, *read) != allowed.end() ? read : std::nullopt;
         });
@@ -99,24 +141,26 @@ public:
 
     /// A text that `make` turns into something, or not.
     template <typename Make>
-    auto made(const char* key, std::string_view expected, Make make)
+    auto made(std::string_view key, std::string_view expected, Make make)
     {
-        return value(key, expected, [&](_GVariant* found) -> decltype(make(std::string())) {
-            auto read = text(found);
-            return read ? make(*std::move(read)) : std::nullopt;
-        });
+        return value(
+            key, [=] { return expected; },
+            [&](_GVariant* found) -> decltype(make(std::string())) {
+                auto read = text(found);
+                return read ? make(*std::move(read)) : std::nullopt;
+            });
     }
 
     const std::optional<RequestFault>& fault() const { return m_fault; }
 
 private:
-    void refuse(const char* key, std::string_view expected)
+    void refuse(std::string_view key, std::string_view expected)
     {
         if (!m_fault)
             m_fault = requestFault(RequestFault::Kind::badArgument, fmt::format("\"{}\" has to be {}.", key, expected));
     }
 
-    _GVariant* m_dictionary;
+    KnownValues m_values;
     std::optional<RequestFault> m_fault;
 };
 
@@ -141,8 +185,7 @@ Answer<HostEnvironment> hostEnvironment(_GVariant* dictionary)
         .timeZone = reader.made("timeZone", "a time zone's name or rule", &zoneNamed),
         .scale = reader.number("scale", 1, HostEnvironment::largestScale),
         .background = reader.truth("background"),
-        .format = reader.made("format", "one of " + quotedList(rawValues<PictureFormat>),
-            [](const std::string& name) { return fromRawValue<PictureFormat>(name); }),
+        .format = reader.choice("format", rawValues<PictureFormat>).and_then(&fromRawValue<PictureFormat>),
     };
     if (reader.fault())
         return std::unexpected(*reader.fault());

@@ -86,31 +86,45 @@ void CairoCanvas::paintMask(const Paint& paint, const PaintedArea& area, cairo_s
     });
 }
 
-SurfaceHandle CairoCanvas::groundSurface(
-    const LinearGradient& gradient, const PaintedArea& area, const Drawing& drawing) const
+/// Whether these pixels are all of a clear picture.
+bool CairoCanvas::isWhole(const Rect& pixels) const
 {
-    auto* const context = current();
-    auto surface = gradientSurface(context, gradient, area);
-    // The outlines are cut as one: edges that coincide would be softened once for each.
-    const SurfaceHandle mask(cairo_surface_create_similar_image(surface.get(), CAIRO_FORMAT_A8,
-        cairo_image_surface_get_width(surface.get()), cairo_image_surface_get_height(surface.get())));
+    auto* const target = cairo_get_target(current());
+    return m_isClear && pixels.x <= 0 && pixels.y <= 0 && pixels.right() >= cairo_image_surface_get_width(target)
+        && pixels.bottom() >= cairo_image_surface_get_height(target);
+}
+
+/// Leaves of a ground what the drawing covers within the clips. The outlines are cut as one: edges that coincide would
+/// be softened once for each.
+void CairoCanvas::cutGround(cairo_surface_t* ground, const Drawing& drawing) const
+{
+    const SurfaceHandle mask(cairo_surface_create_similar_image(
+        ground, CAIRO_FORMAT_A8, cairo_image_surface_get_width(ground), cairo_image_surface_get_height(ground)));
     double left = 0, top = 0;
-    cairo_surface_get_device_offset(surface.get(), &left, &top);
+    cairo_surface_get_device_offset(ground, &left, &top);
     cairo_surface_set_device_offset(mask.get(), left, top);
     const CairoHandle onMask(cairo_create(mask.get()));
     cairo_matrix_t matrix;
-    cairo_get_matrix(context, &matrix);
+    cairo_get_matrix(current(), &matrix);
     cairo_set_matrix(onMask.get(), &matrix);
     m_clips.applyTo(onMask.get());
     drawing(onMask.get());
-    const CairoHandle onGround(cairo_create(surface.get()));
+    const CairoHandle onGround(cairo_create(ground));
     cairo_set_operator(onGround.get(), CAIRO_OPERATOR_DEST_IN);
     cairo_set_source_surface(onGround.get(), mask.get(), 0, 0);
     cairo_paint(onGround.get());
+}
+
+SurfaceHandle CairoCanvas::groundSurface(
+    const LinearGradient& gradient, const PaintedArea& area, const Drawing& drawing) const
+{
+    auto surface = gradientSurface(current(), gradient, area);
+    cutGround(surface.get(), drawing);
     return surface;
 }
 
-/// A gradient within rounded corners, the ground of most widgets, is kept as the clips cut it.
+/// A gradient all over a picture or within rounded corners, the ground of most widgets, is kept as the clips cut it.
+/// For a single picture it is made in its place.
 void CairoCanvas::paintGround(const LinearGradient& gradient, const PaintedArea& area, const Drawing& drawing)
 {
     auto* const context = current();
@@ -120,6 +134,13 @@ void CairoCanvas::paintGround(const LinearGradient& gradient, const PaintedArea&
     addTo(key, gradient);
     key.add(pixels.x).add(pixels.y).add(pixels.width).add(pixels.height).add(scaleOf(context));
     m_clips.addTo(key);
+    if (m_isClear && m_sources.kept.isWantedOnce(key, static_cast<std::size_t>(box.width * box.height) * 4)) {
+        fillTarget(context, gradient, area);
+        if (!isWhole(pixels) || m_clips.cut(pixels))
+            cutGround(cairo_get_target(context), drawing);
+        m_isClear = false;
+        return;
+    }
     const auto ground = m_sources.kept.find(key, [&] { return groundSurface(gradient, area, drawing); });
     const PixelScope inPixels(context);
     cairo_set_source_surface(context, ground.get(), 0, 0); // the surface knows where it lies
@@ -178,8 +199,8 @@ void CairoCanvas::fill(const Outline& outline, const Rect& in, const Paint& pain
     if (std::holds_alternative<Rectangle>(outline)) {
         const auto pixels = inPixels(current(), in);
         const auto* gradient = std::get_if<LinearGradient>(&paint);
-        const bool isGround =
-            gradient && !m_isVector && m_clips.cut(pixels) && pixels.width * pixels.height <= mostGround;
+        const bool isGround = gradient && !m_isVector && pixels.width * pixels.height <= mostGround
+            && (m_clips.cut(pixels) || isWhole(pixels));
         return isGround ? paintGround(*gradient, area, drawing) : paintOn(paint, area, pixels, drawing);
     }
     SurfaceKey key("fill");

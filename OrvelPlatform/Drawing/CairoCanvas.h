@@ -42,8 +42,10 @@ private:
         const Paint& paint, const PaintedArea& area, const std::optional<Rect>& pixels, const Drawing& drawing);
     void paintMask(const Paint& paint, const PaintedArea& area, _cairo_surface* mask, Point at);
     void paintGround(const LinearGradient& gradient, const PaintedArea& area, const Drawing& drawing);
+    void cutGround(_cairo_surface* ground, const Drawing& drawing) const;
     SurfaceHandle groundSurface(const LinearGradient& gradient, const PaintedArea& area, const Drawing& drawing) const;
     void paintShape(const Paint& paint, const PaintedArea& area, SurfaceKey key, const Drawing& drawing);
+    bool isWhole(const Rect& pixels) const;
     _cairo* current() const;
 
     std::vector<CairoHandle> m_contexts; // the default layer's, then the accent's

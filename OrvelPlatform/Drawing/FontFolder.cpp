@@ -10,12 +10,12 @@ namespace orvel {
 
 namespace fs = std::filesystem;
 
-void addFonts(FcConfig* configuration, const fs::path& folder)
+void addFonts(FcConfig* configuration, const fs::path& folder, std::string_view begin)
 {
     std::error_code error;
     std::vector<std::string> files;
     for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
-        if (entry->path().extension() == ".ttf")
+        if (entry->path().extension() == ".ttf" && entry->path().filename().string().starts_with(begin))
             files.push_back(entry->path().string());
     }
     std::ranges::sort(files); // a folder's order is anyone's guess

@@ -2,7 +2,6 @@
 
 #include <pango/pangocairo.h>
 #include <pango/pangofc-fontmap.h>
-#include <utility>
 
 #include "OrvelPlatform/Drawing/FontFolder.h"
 
@@ -32,39 +31,25 @@ Handle<PangoContext> contextFor(PangoFontMap* map, LayoutDirection direction)
 
 }
 
-FontMaps::FontMaps(fs::path folder, FontScope scope) : m_folder(std::move(folder))
+FontMaps::Set FontMaps::made(FontSupply supply) const
 {
-    Handle<FcConfig> configuration(FcConfigCreate());
-    if (scope == FontScope::ownProcess)
-        FcConfigSetCurrent(configuration.get());
-    fill(m_own, std::move(configuration), m_folder);
-}
-
-void FontMaps::fill(Set& set, Handle<FcConfig> configuration, const fs::path& folder)
-{
-    addFonts(configuration.get(), folder);
-    set.map.reset(pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT));
-    pango_fc_font_map_set_config(PANGO_FC_FONT_MAP(set.map.get()), configuration.get());
-    set.configuration = std::move(configuration);
+    Set set { Handle<FcConfig>(supply == FontSupply::all ? FcInitLoadConfigAndFonts() : FcConfigCreate()),
+        Handle<PangoFontMap>(pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT)), {} };
+    if (m_scope == FontScope::ownProcess && supply != FontSupply::all)
+        FcConfigSetCurrent(set.configuration.get());
+    addFonts(set.configuration.get(), m_folder, supply == FontSupply::rounded ? "rounded-" : "");
+    pango_fc_font_map_set_config(PANGO_FC_FONT_MAP(set.map.get()), set.configuration.get());
     for (const auto direction : { LayoutDirection::leftToRight, LayoutDirection::rightToLeft })
         set.contexts.at(static_cast<std::size_t>(direction)) = contextFor(set.map.get(), direction);
+    return set;
 }
 
-PangoContext* FontMaps::context(const Set& set, LayoutDirection direction)
+PangoContext* FontMaps::context(FontSupply supply, LayoutDirection direction)
 {
+    auto& set = m_sets.at(static_cast<std::size_t>(supply));
+    if (!set.map)
+        set = made(supply);
     return set.contexts.at(static_cast<std::size_t>(direction)).get();
-}
-
-PangoContext* FontMaps::own(LayoutDirection direction)
-{
-    return context(m_own, direction);
-}
-
-PangoContext* FontMaps::withSystem(LayoutDirection direction)
-{
-    if (!m_all.map)
-        fill(m_all, Handle<FcConfig>(FcInitLoadConfigAndFonts()), m_folder);
-    return context(m_all, direction);
 }
 
 }

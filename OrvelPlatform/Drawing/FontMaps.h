@@ -2,6 +2,7 @@
 
 #include <array>
 #include <filesystem>
+#include <utility>
 
 #include "OrvelPlatform/Drawing/Handles.h"
 #include "OrvelPlatform/Views/TextSystem.h"
@@ -12,16 +13,20 @@ namespace orvel {
 /// which spares loading the system's; in another program's it leaves that program's alone.
 enum class FontScope { ownProcess, guest };
 
-/// The fonts that text is shaped with: first our own alone; together with all of the system's only once a text asks for
-/// letters that ours do not have.
+/// Which fonts there are to choose from. Each takes its time to be read, so that a text begins with as few as will do.
+enum class FontSupply {
+    rounded, // our rounded family: nearly all that a widget says
+    own, // all of ours
+    all, // ours and the system's
+};
+
+/// The fonts that text is shaped with, read when they are first wanted.
 class FontMaps {
 public:
-    FontMaps(std::filesystem::path folder, FontScope scope);
+    FontMaps(std::filesystem::path folder, FontScope scope) : m_folder(std::move(folder)), m_scope(scope) { }
 
-    /// A context for shaping with our fonts. Lives as long as this.
-    _PangoContext* own(LayoutDirection direction);
-    /// The same with the system's fonts for what is missing.
-    _PangoContext* withSystem(LayoutDirection direction);
+    /// A context for shaping. Lives as long as this.
+    _PangoContext* context(FontSupply supply, LayoutDirection direction);
 
 private:
     struct Set {
@@ -30,12 +35,11 @@ private:
         std::array<Handle<_PangoContext>, 2> contexts; // one for each direction: a context's change undoes its layouts
     };
 
-    static void fill(Set& set, Handle<_FcConfig> configuration, const std::filesystem::path& folder);
-    static _PangoContext* context(const Set& set, LayoutDirection direction);
+    Set made(FontSupply supply) const;
 
     std::filesystem::path m_folder;
-    Set m_own;
-    Set m_all;
+    FontScope m_scope;
+    std::array<Set, 3> m_sets; // by supply
 };
 
 }

@@ -60,27 +60,66 @@ std::uint32_t pixel(Lanes color, Lanes threshold)
 {
     const Lanes sum = color + threshold; // at most 255 × 256 + 254: no lane overflows
     constexpr unsigned byte = 8;
-    return static_cast<std::uint32_t>((sum >> byte & 0xffU) | (sum >> (2 * byte) & 0xff00U)
-        | (sum >> (3 * byte) & 0xff'0000U) | (sum >> (4 * byte) & 0xff00'0000U));
+    const Lanes bytes = sum >> byte & 0x00ff'00ff'00ff'00ff;
+    const Lanes pairs = bytes | bytes >> byte; // in the lowest 16 bits and in those from the 32nd on
+    return static_cast<std::uint32_t>((pairs & 0xffffU) | (pairs >> (2 * byte) & 0xffff'0000U));
 }
 
-/// Fills the grid with the colours at `location(x, y)`, in pixels from the painted rectangle's corner.
-template <typename Location>
-void paint(const PixelGrid& grid, std::span<const GradientStop> stops, Location location)
+/// Fills the grid row by row: `rowAt(fromTop)` gives what tells a pixel's place in the table of colours. Distances are
+/// in pixels from the painted rectangle's corner. There the dithering begins too, so that a pixel is the same however
+/// much is painted round the rectangle.
+template <typename RowAt>
+void paint(const PixelGrid& grid, std::span<const GradientStop> stops, RowAt rowAt)
 {
     static constexpr auto tile = thresholds();
     const auto table = tableOf(stops);
+    const auto phase = [](double corner) { return static_cast<std::size_t>(-std::lround(corner)) % tileSide; };
+    const auto left = phase(grid.painted.x), top = phase(grid.painted.y);
     const std::size_t height = grid.pixels.size() / grid.width;
     for (std::size_t y = 0; y < height; ++y) {
         const auto row = grid.pixels.subspan(y * grid.width, grid.width);
-        const double fromTop = static_cast<double>(y) + 0.5 - grid.painted.y;
-        for (std::size_t x = 0; x < row.size(); ++x) {
-            const double at = location(static_cast<double>(x) + 0.5 - grid.painted.x, fromTop);
-            const auto index = static_cast<std::size_t>(std::clamp(at, 0.0, 1.0) * tableSize + 0.5);
-            row[x] = pixel(table[index], tile[y % tileSide][x % tileSide]);
-        }
+        const auto& thresholds = tile[(y + top) % tileSide];
+        const auto indexAt = rowAt(static_cast<double>(y) + 0.5 - grid.painted.y);
+        for (std::size_t x = 0; x < row.size(); ++x)
+            row[x] = pixel(table[indexAt(x)], thresholds[(x + left) % tileSide]);
     }
 }
+
+/// The place in the table for a place on the gradient's line.
+std::size_t tableIndex(double location)
+{
+    return static_cast<std::size_t>(std::clamp(location, 0.0, 1.0) * tableSize + 0.5);
+}
+
+void paintLast(const PixelGrid& grid, std::span<const GradientStop> stops)
+{
+    paint(grid, stops, [](double) { return [](std::size_t) { return tableSize; }; });
+}
+
+/// A linear gradient moves on by the same step from pixel to pixel, so that whole numbers do: places in the table with
+/// a fraction of 32 bits. What is far off either end stays there.
+class LinearRow {
+public:
+    LinearRow(double first, double step) : m_first(fixed(first * tableSize + 0.5)), m_step(fixed(step * tableSize)) { }
+
+    std::size_t operator()(std::size_t x) const
+    {
+        const auto index = (m_first + m_step * static_cast<std::int64_t>(x)) >> fraction;
+        return static_cast<std::size_t>(std::clamp<std::int64_t>(index, 0, tableSize));
+    }
+
+private:
+    static constexpr unsigned fraction = 32;
+
+    static std::int64_t fixed(double places)
+    {
+        constexpr double most = 1 << 17; // times the longest row it still fits
+        return std::llround(std::clamp(places, -most, most) * static_cast<double>(std::int64_t { 1 } << fraction));
+    }
+
+    std::int64_t m_first;
+    std::int64_t m_step;
+};
 
 }
 
@@ -107,8 +146,11 @@ void paintGradient(const PixelGrid& grid, const LinearGradient& gradient)
     const double dy = gradient.end.y * grid.painted.height - startY;
     const double squared = dx * dx + dy * dy;
     if (squared == 0)
-        return paint(grid, gradient.stops, [](double, double) { return 1.0; });
-    paint(grid, gradient.stops, [&](double x, double y) { return ((x - startX) * dx + (y - startY) * dy) / squared; });
+        return paintLast(grid, gradient.stops);
+    const double firstX = 0.5 - grid.painted.x;
+    paint(grid, gradient.stops, [&](double fromTop) {
+        return LinearRow(((firstX - startX) * dx + (fromTop - startY) * dy) / squared, dx / squared);
+    });
 }
 
 void paintGradient(const PixelGrid& grid, const RadialGradient& gradient, double scale)
@@ -116,10 +158,12 @@ void paintGradient(const PixelGrid& grid, const RadialGradient& gradient, double
     const double centerX = gradient.center.x * grid.painted.width, centerY = gradient.center.y * grid.painted.height;
     const double radius = gradient.radius * scale;
     if (radius <= 0)
-        return paint(grid, gradient.stops, [](double, double) { return 1.0; });
-    paint(grid, gradient.stops, [&](double x, double y) {
-        const double dx = x - centerX, dy = y - centerY;
-        return std::sqrt(dx * dx + dy * dy) / radius;
+        return paintLast(grid, gradient.stops);
+    paint(grid, gradient.stops, [&](double fromTop) {
+        return [=, dy = fromTop - centerY](std::size_t x) {
+            const double dx = static_cast<double>(x) + 0.5 - grid.painted.x - centerX;
+            return tableIndex(std::sqrt(dx * dx + dy * dy) / radius);
+        };
     });
 }
 

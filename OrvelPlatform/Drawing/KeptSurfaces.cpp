@@ -39,6 +39,15 @@ void addTo(SurfaceKey& key, const Outline& outline)
         key.add(ring->width);
 }
 
+bool KeptSurfaces::isWantedOnce(const SurfaceKey& key, std::size_t size)
+{
+    if (size <= small || m_byKey.contains(key.bytes()))
+        return false;
+    if (m_wantedOnce.size() > mostWantedOnce)
+        m_wantedOnce.clear();
+    return m_wantedOnce.insert(key.bytes()).second;
+}
+
 std::shared_ptr<cairo_surface_t> KeptSurfaces::find(const SurfaceKey& key, const std::function<SurfaceHandle()>& make)
 {
     if (const auto found = m_byKey.find(key.bytes()); found != m_byKey.end()) {
@@ -48,9 +57,7 @@ std::shared_ptr<cairo_surface_t> KeptSurfaces::find(const SurfaceKey& key, const
     std::shared_ptr<cairo_surface_t> surface(make());
     const auto size = static_cast<std::size_t>(cairo_image_surface_get_stride(surface.get()))
         * static_cast<std::size_t>(cairo_image_surface_get_height(surface.get()));
-    if (m_wantedOnce.size() > mostWantedOnce)
-        m_wantedOnce.clear();
-    if (size > m_limit || (size > small && m_wantedOnce.insert(key.bytes()).second))
+    if (size > m_limit || isWantedOnce(key, size))
         return surface;
     m_wantedOnce.erase(key.bytes());
     m_entries.push_front({ key.bytes(), surface, size });

@@ -38,6 +38,10 @@ class KeptSurfaces {
 public:
     explicit KeptSurfaces(std::size_t limit) : m_limit(limit) { }
 
+    /// Whether a surface of so many bytes would not be kept: a large one that is wanted for the first time. Asking
+    /// counts as wanting it.
+    bool isWantedOnce(const SurfaceKey& key, std::size_t size);
+
     /// The surface known by the key, made now if need be.
     std::shared_ptr<_cairo_surface> find(const SurfaceKey& key, const std::function<SurfaceHandle()>& make);
 

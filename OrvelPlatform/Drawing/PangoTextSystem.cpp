@@ -28,6 +28,13 @@ struct Release {
     void operator()(hb_font_t* font) const { hb_font_destroy(font); }
 };
 
+/// The fewest fonts that may have the block's letters.
+FontSupply leastSupply(const TextBlock& block)
+{
+    const auto isRounded = [](const TextRun& run) { return run.style.family == FontFamily::rounded; };
+    return std::ranges::all_of(block.runs, isRounded) ? FontSupply::rounded : FontSupply::own;
+}
+
 bool isWhole(PangoLayout* layout)
 {
     return pango_layout_get_unknown_glyphs_count(layout) == 0;
@@ -130,14 +137,16 @@ PangoTextSystem::Kept& PangoTextSystem::keptOf(const TextBlock& block)
 PangoTextSystem::Shown PangoTextSystem::shown(const TextBlock& block, double width)
 {
     PangoParagraph paragraph(block);
-    auto* context = m_fonts.own(block.direction);
-    auto layout = paragraph.layout(width, context);
-    if (isWhole(layout.get()))
-        return { std::move(paragraph), context, std::move(layout) };
-    context = m_fonts.withSystem(block.direction);
-    layout = paragraph.layout(width, context);
-    if (isWhole(layout.get()))
-        return { std::move(paragraph), context, std::move(layout) };
+    PangoContext* context = nullptr;
+    Handle<PangoLayout> layout;
+    for (const auto supply : { FontSupply::rounded, FontSupply::own, FontSupply::all }) {
+        if (supply < leastSupply(block))
+            continue;
+        context = m_fonts.context(supply, block.direction);
+        layout = paragraph.layout(width, context);
+        if (isWhole(layout.get()))
+            return { std::move(paragraph), context, std::move(layout) };
+    }
     const auto all = paragraph.uncut(context);
     for (const std::string_view mark : { "□", "–" }) {
         auto marked = paragraph.withoutMissingLetters(all.get(), mark);

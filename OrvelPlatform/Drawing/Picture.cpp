@@ -1,12 +1,14 @@
 #include "OrvelPlatform/Drawing/Picture.h"
 
+#include <utility>
+
 #include "OrvelPlatform/Drawing/Png.h"
 
 namespace orvel {
 
-std::expected<std::string, Fault> Picture::png(const Layer& layer) const
+std::expected<std::string, Fault> Picture::png(Layer layer) const
 {
-    return pngFile(layer.pixels, width);
+    return pngFile(std::move(layer.pixels), width);
 }
 
 }

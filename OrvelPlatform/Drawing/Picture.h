@@ -31,8 +31,8 @@ struct Picture {
 
     std::uint32_t stride() const { return width * 4; } // bytes
 
-    /// A layer as a PNG file.
-    std::expected<std::string, Fault> png(const Layer& layer) const;
+    /// A layer, which need not be kept for it, as a PNG file.
+    std::expected<std::string, Fault> png(Layer layer) const;
 };
 
 }

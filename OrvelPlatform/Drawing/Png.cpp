@@ -1,8 +1,10 @@
 #include "OrvelPlatform/Drawing/Png.h"
 
+#include <algorithm>
 #include <array>
 #include <libdeflate.h>
 #include <memory>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -29,8 +31,10 @@ void appendChunk(std::string& file, std::string_view kind, std::string_view data
     appendNumber(file, libdeflate_crc32(0, bytes, file.size() - checked));
 }
 
+using Channels = std::array<Byte, pixelSize>;
+
 /// Red, green, blue and alpha, not premultiplied.
-std::array<Byte, pixelSize> separated(std::uint32_t pixel)
+Channels separated(std::uint32_t pixel)
 {
     constexpr std::uint32_t full = 255;
     const std::uint32_t alpha = pixel >> 24U;
@@ -42,23 +46,34 @@ std::array<Byte, pixelSize> separated(std::uint32_t pixel)
 }
 
 /// The picture's rows as differences to the row above, each with the filter's number before it: what is left of smooth
-/// ground is small numbers, which pack well.
-std::vector<Byte> filteredRows(std::span<const std::uint32_t> pixels, std::size_t width)
+/// ground is small numbers, which pack well. A row's bytes never begin before its pixels do, so that from the last row
+/// up they can take the pixels' place.
+std::span<const std::byte> filterRows(std::vector<std::uint32_t>& pixels, std::size_t width)
 {
     constexpr Byte differenceToRowAbove = 2;
-    std::vector<Byte> rows(pixels.size() / width * (width * pixelSize + 1));
-    std::vector<std::array<Byte, pixelSize>> above(width);
-    auto out = rows.begin();
-    for (std::size_t row = 0; row < pixels.size(); row += width) {
-        *out++ = differenceToRowAbove;
+    const auto height = pixels.size() / width, rowSize = width * pixelSize + 1;
+    const auto words = pixels.size() + (height + pixelSize - 1) / pixelSize;
+    pixels.reserve(words); // as many and no more
+    pixels.resize(words);
+    const auto bytes = std::as_writable_bytes(std::span(pixels));
+    std::vector<Channels> row(width), above(width);
+    const auto separate = [&](std::vector<Channels>& to, std::size_t y) {
+        std::ranges::transform(std::span(pixels).subspan(y * width, width), to.begin(), separated);
+    };
+    separate(row, height - 1);
+    for (auto y = height; y-- > 0; row.swap(above)) {
+        if (y > 0)
+            separate(above, y - 1);
+        else
+            above.assign(width, {});
+        auto out = bytes.begin() + static_cast<std::ptrdiff_t>(y * rowSize);
+        *out++ = std::byte { differenceToRowAbove };
         for (std::size_t x = 0; x < width; ++x) {
-            const auto channels = separated(pixels[row + x]);
             for (std::size_t i = 0; i < pixelSize; ++i)
-                *out++ = static_cast<Byte>(channels[i] - above[x][i]);
-            above[x] = channels;
+                *out++ = static_cast<std::byte>(row[x][i] - above[x][i]);
         }
     }
-    return rows;
+    return bytes.first(height * rowSize);
 }
 
 struct Release {
@@ -74,7 +89,7 @@ struct Buffer {
     std::string_view view() const { return { bytes.get(), size }; }
 };
 
-std::expected<Buffer, Fault> packed(const std::vector<Byte>& rows)
+std::expected<Buffer, Fault> packed(std::span<const std::byte> rows)
 {
     constexpr int fastest = 1;
     const std::unique_ptr<libdeflate_compressor, Release> compressor(libdeflate_alloc_compressor(fastest));
@@ -87,17 +102,18 @@ std::expected<Buffer, Fault> packed(const std::vector<Byte>& rows)
 
 }
 
-std::expected<std::string, Fault> pngFile(std::span<const std::uint32_t> pixels, std::uint32_t width)
+std::expected<std::string, Fault> pngFile(std::vector<std::uint32_t> pixels, std::uint32_t width)
 {
     if (width == 0 || pixels.empty() || pixels.size() % width != 0)
         return std::unexpected(Fault { {}, "a picture has whole rows" });
-    const auto data = packed(filteredRows(pixels, width));
+    const auto height = static_cast<std::uint32_t>(pixels.size() / width);
+    const auto data = packed(filterRows(pixels, width));
     if (!data)
         return std::unexpected(data.error());
     std::string file("\x89PNG\r\n\x1a\n");
     std::string header;
     appendNumber(header, width);
-    appendNumber(header, static_cast<std::uint32_t>(pixels.size() / width));
+    appendNumber(header, height);
     header += { 8, 6, 0, 0, 0 }; // eight bits, red green blue and alpha; the only ways of packing, filtering and order
     appendChunk(file, "IHDR", header);
     appendChunk(file, "sRGB", std::string_view("\0", 1));

@@ -54,10 +54,16 @@ Picture emptyPicture(const Renderer::Request& request)
 {
     Picture picture { static_cast<std::uint32_t>(std::ceil(request.size.width * request.scale)),
         static_cast<std::uint32_t>(std::ceil(request.size.height * request.scale)), {}, {}, {} };
-    const auto count = static_cast<std::size_t>(picture.width) * picture.height;
-    picture.layers.push_back({ request.isTinted ? "default" : "whole", std::vector<std::uint32_t>(count) });
+    const auto clear = [&] {
+        const auto count = static_cast<std::size_t>(picture.width) * picture.height;
+        std::vector<std::uint32_t> pixels;
+        pixels.reserve(count + picture.height); // room for what a PNG has with each row
+        pixels.resize(count);
+        return pixels;
+    };
+    picture.layers.push_back({ request.isTinted ? "default" : "whole", clear() });
     if (request.isTinted)
-        picture.layers.push_back({ "accent", std::vector<std::uint32_t>(count) });
+        picture.layers.push_back({ "accent", clear() });
     return picture;
 }
 

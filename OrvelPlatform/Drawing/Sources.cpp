@@ -79,15 +79,21 @@ cairo_format_t formatOf(const std::vector<GradientStop>& stops)
     return isOpaque ? CAIRO_FORMAT_RGB24 : CAIRO_FORMAT_ARGB32;
 }
 
+/// An image's pixels, to paint on a rectangle of them.
+PixelGrid gridOf(cairo_surface_t* image, const Rect& painted)
+{
+    auto* const pixels = reinterpret_cast<std::uint32_t*>(cairo_image_surface_get_data(image));
+    const auto width = static_cast<std::size_t>(cairo_image_surface_get_stride(image)) / sizeof *pixels;
+    const auto height = static_cast<std::size_t>(cairo_image_surface_get_height(image));
+    return { std::span(pixels, width * height), width, painted };
+}
+
 template <typename Gradient>
 SurfaceHandle surfaceOf(const Gradient& gradient, const GradientPlace& place, cairo_format_t format)
 {
     const auto& [painted, box, scale] = place;
     SurfaceHandle surface(cairo_image_surface_create(format, box.width, box.height));
-    auto* const pixels = reinterpret_cast<std::uint32_t*>(cairo_image_surface_get_data(surface.get()));
-    const auto width = static_cast<std::size_t>(cairo_image_surface_get_stride(surface.get())) / sizeof *pixels;
-    paintPixels({ std::span(pixels, width * static_cast<std::size_t>(box.height)), width,
-                    { painted.x - box.left, painted.y - box.top, painted.width, painted.height } },
+    paintPixels(gridOf(surface.get(), { painted.x - box.left, painted.y - box.top, painted.width, painted.height }),
         gradient, scale);
     cairo_surface_mark_dirty(surface.get());
     return surface;
@@ -159,6 +165,14 @@ SurfaceHandle gradientSurface(cairo_t* context, const LinearGradient& gradient, 
     auto surface = surfaceOf(gradient, place, CAIRO_FORMAT_ARGB32);
     cairo_surface_set_device_offset(surface.get(), -place.box.left, -place.box.top);
     return surface;
+}
+
+void fillTarget(cairo_t* context, const LinearGradient& gradient, const PaintedArea& area)
+{
+    auto* const target = cairo_get_target(context);
+    cairo_surface_flush(target);
+    paintGradient(gridOf(target, inPixels(context, area.rect)), gradient);
+    cairo_surface_mark_dirty(target);
 }
 
 bool setSource(const Sources& sources, cairo_t* context, const Paint& paint, const PaintedArea& area)

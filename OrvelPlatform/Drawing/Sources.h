@@ -31,6 +31,9 @@ void addTo(SurfaceKey& key, const LinearGradient& gradient);
 /// context's.
 SurfaceHandle gradientSurface(_cairo* context, const LinearGradient& gradient, const PaintedArea& area);
 
+/// Fills the context's whole target, an image, with the gradient of an area.
+void fillTarget(_cairo* context, const LinearGradient& gradient, const PaintedArea& area);
+
 /// Makes a paint the context's source; false where it paints nothing.
 bool setSource(const Sources& sources, _cairo* context, const Paint& paint, const PaintedArea& area);
 

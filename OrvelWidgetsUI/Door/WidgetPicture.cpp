@@ -77,7 +77,7 @@ std::expected<std::vector<DrawnWidget::Layer>, Fault> layers(Picture& picture, W
             layer.pixels = std::move(drawn.pixels);
             continue;
         }
-        auto png = picture.png(drawn);
+        auto png = picture.png(std::move(drawn));
         if (!png)
             return std::unexpected(std::move(png).error());
         layer.png = *std::move(png);

@@ -158,6 +158,10 @@ TEST(Locales, writeTheTimeOfDayTheirWay)
         { "en-US-u-hc-h23", "09:05", "21:05", "00:00" },
         { "de-u-nu-bogus-ca-bogus", "09:05", "21:05", "00:00" },
         { "qqq-XX", "09:05", "21:05", "00:00" },
+        { "zh-Hant", "上午9:05", "下午9:05", "上午12:00" },
+        { "yo", "09:05", "21:05", "00:00" },
+        { "de-US", "9:05 AM", "9:05 PM", "12:00 AM" },
+        { "fr-CA", "09 h 05", "21 h 05", "00 h 00" },
     };
     for (const auto& c : cases) {
         const auto shown = locale(c.name);

@@ -72,6 +72,29 @@ TEST(Clips, cutWhatReachesTheirEdgeAndNothingElse)
     }
 }
 
+TEST(Grounds, areTheSamePixelsInThePictureItselfAndKept)
+{
+    const Size large { 300, 280 }; // more bytes than are kept of what is wanted once
+    const struct {
+        std::string_view name;
+        Color color;
+        Insets room;
+        Outline clip;
+    } cases[] = {
+        { "all over", { 1, 0, 0 }, {}, Rectangle {} },
+        { "within rounded corners", { 0, 1, 0 }, {}, RoundedRectangle { 20 } },
+        { "off whole pixels", { 0, 0, 1 }, { 3.25, 2.5, 1, 7 }, RoundedRectangle { 20 } },
+        { "half clear", { 1, 0, 1, 0.5 }, {}, Rectangle {} },
+    };
+    for (const auto& c : cases) {
+        const LinearGradient gradient { { 0.1, 0 }, { 0.8, 1 }, { { 0, c.color }, { 1, { 0.2, 0.3, 0.4 } } } };
+        const View view = Padding { c.room, Clipped { c.clip, Shape { Rectangle {}, gradient } } };
+        const auto first = drawn(view, large, 1.5);
+        for (int again = 0; again < 2; ++again)
+            EXPECT_TRUE(drawn(view, large, 1.5).words == first.words) << c.name;
+    }
+}
+
 TEST(TextMasks, putTogetherFromGlyphsAreWhatTheirOutlinesGive)
 {
     const TextStyle style { .size = 17, .lineHeight = 22, .weight = 600 };

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <fmt/format.h>
 #include <memory>
+#include <utility>
 
 #include "OrvelDesign/DesignBundle.h"
 #include "OrvelDesign/Drawn/MenuBarOrbImage.h"
@@ -68,7 +69,7 @@ std::expected<std::string, Fault> png(const TemplateBitmap& bitmap)
     auto& layer = picture.layers.front();
     for (const std::uint32_t alpha : bitmap.alpha)
         layer.pixels.push_back(alpha << 24U); // black, premultiplied
-    return picture.png(layer);
+    return picture.png(std::move(layer));
 }
 
 Exit drawGlyph(const GlyphCall& call)
@@ -94,8 +95,8 @@ std::expected<std::string, Fault> drawn(const View& view, double scale, PictureF
     const auto size = measure(view, Proposal::ideal, base).size;
     if (format == PictureFormat::svg)
         return renderer.svg(view, size, base);
-    const auto picture = renderer.draw(view, { .size = size, .scale = scale }, base);
-    return picture ? picture->png(picture->layers.front()) : std::unexpected(picture.error());
+    auto picture = renderer.draw(view, { .size = size, .scale = scale }, base);
+    return picture ? picture->png(std::move(picture->layers.front())) : std::unexpected(picture.error());
 }
 
 Exit drawOrb(const OrbCall& call)

@@ -1,5 +1,7 @@
 #include "Tools/orvelctl/pictures/Drawing.h"
 
+#include <utility>
+
 #include "OrvelCopy/Lookup/Lookup.h"
 #include "OrvelDesign/TextMagnification.h"
 #include "OrvelDesign/TokensSpace.h"
@@ -98,8 +100,8 @@ Exit draw(
         const Magnified whole { view, magnification };
         return file.write(renderer.svg(whole, whole.measure({}, environment).size, environment));
     }
-    const auto picture = renderer.draw(view.view, { view.size, scale * magnification }, environment);
-    return file.write(picture ? picture->png(picture->layers.front()) : std::unexpected(picture.error()));
+    auto picture = renderer.draw(view.view, { view.size, scale * magnification }, environment);
+    return file.write(picture ? picture->png(std::move(picture->layers.front())) : std::unexpected(picture.error()));
 }
 
 }
