@@ -82,7 +82,7 @@ SYSTEM = {
     r"(gio/|glib)": [
         "OrvelPlatform/Desktop", "WidgetHost", "WidgetHost/Tray", "WidgetHost/Windows.cpp", "WidgetHost/Program.cpp",
     ],
-    r"(gtk|gdk|X11/|wayland)": [
+    r"(gtk|gdk|X11/)": [
         "WidgetHost.cpp", "WidgetHost/Windows.cpp", "WidgetHost/Style.cpp", "WidgetHost/Gallery.cpp", "WidgetHost/Panel.cpp",
         "WidgetHost/Program/Main.cpp",
     ],

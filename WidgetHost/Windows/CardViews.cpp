@@ -33,16 +33,6 @@ Color quietColor(const std::optional<WindowTint>& tint, const Environment& envir
     return tint ? tint->foreground.faded(quiet) : Color(Palette::textSecondary.resolve(environment));
 }
 
-View filling(View content, Alignment alignment)
-{
-    return Frame {
-        .width = FrameLength::filling(),
-        .height = FrameLength::filling(),
-        .alignment = alignment,
-        .content = std::move(content),
-    };
-}
-
 }
 
 Environment environmentOf(const WidgetFace& face)
@@ -93,18 +83,35 @@ View CardFrame::body(const Environment& environment) const
 
 View CardPlaceholder::body(const Environment& environment) const
 {
-    return filling(Padding { .insets = Insets::all(Tokens::Space::s4),
-                       .content = words(name, MacTypeRole::headline, quietColor(tint, environment), 2, environment) },
-        Alignment::center);
+    return Frame {
+        .width = FrameLength::filling(),
+        .height = FrameLength::filling(),
+        .content = Padding { .insets = Insets::all(Tokens::Space::s4),
+            .content = words(name, MacTypeRole::headline, quietColor(tint, environment), 2, environment) },
+    };
 }
 
 View CardNotice::body(const Environment& environment) const
 {
-    const auto line = words(sentence, MacTypeRole::subheadline, quietColor(tint, environment), 1, environment);
-    return filling(Frame { .width = FrameLength::filling(),
-                       .height = FrameLength::exactly(height),
-                       .content = Padding { .insets = Insets::sides(Tokens::Space::s4, 0), .content = line } },
-        Alignment::bottom);
+    const auto resolved = [&](const OrvelColor& color) { return Color(color.resolve(environment)); };
+    const auto words = tint ? quietColor(tint, environment) : resolved(Palette::noticeText);
+    const auto line = resolved(tint ? Palette::line : Palette::noticeLine);
+    const auto ground = tint ? Color(Palette::surface1.resolve(environment)) : resolved(Palette::noticeFill);
+    constexpr double lineWidth = 1;
+    const View plate = Background {
+        .content = Padding { .insets = Insets::all(lineWidth / 2),
+            .content = Shape { Capsule {}, line, Stroke { lineWidth } } },
+        .back = Shape { Capsule {}, ground },
+    };
+    return Background {
+        .content =
+            Frame {
+                .height = FrameLength::exactly(height),
+                .content = Padding { .insets = Insets::sides(Tokens::Space::s2, 0),
+                    .content = orvel::words(sentence, MacTypeRole::subheadline, words, 1, environment) },
+            },
+        .back = plate,
+    };
 }
 
 View ActionRing::body(const Environment&) const

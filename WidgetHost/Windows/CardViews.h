@@ -44,9 +44,9 @@ struct CardPlaceholder {
     View body(const Environment& environment) const;
 };
 
-/// At the foot of a card, in the room that widgets leave free there: a sentence on a line of its own.
+/// A sentence on a small plate of its own, which lies over a card's lower edge: widgets leave no room within.
 struct CardNotice {
-    static constexpr double height = 16; // points, from the card's lower edge on
+    static constexpr double height = 20; // points
 
     std::string sentence;
     std::optional<WindowTint> tint;

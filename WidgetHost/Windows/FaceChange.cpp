@@ -61,7 +61,8 @@ bool haveOneGround(const WidgetFace& one, const WidgetFace& other)
 
 bool haveOneMeaning(const WidgetFace& one, const WidgetFace& other)
 {
-    if (one.name != other.name || one.pointScale != other.pointScale || one.size != other.size)
+    if (one.name != other.name || one.notice != other.notice || one.pointScale != other.pointScale
+        || one.size != other.size)
         return false;
     if (one.picture == other.picture)
         return true;

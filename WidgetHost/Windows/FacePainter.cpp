@@ -126,12 +126,16 @@ void paintFrame(cairo_t* context, const WindowPictures::Frame& frame, const Pain
     }
 }
 
-void paintPicture(cairo_t* context, const Picture& picture, Point at)
+void paintPlaced(cairo_t* context, const WindowPictures::Placed& placed, double scale)
 {
-    const auto source = image(picture);
-    cairo_set_source_surface(context, source.get(), at.x, at.y);
+    const auto source = image(placed.picture);
+    cairo_save(context);
+    cairo_translate(context, placed.place.x, placed.place.y);
+    cairo_scale(context, 1 / scale, 1 / scale);
+    cairo_set_source_surface(context, source.get(), 0, 0);
     cairo_pattern_set_filter(cairo_get_source(context), CAIRO_FILTER_NEAREST);
     cairo_paint(context);
+    cairo_restore(context);
 }
 
 void paintPressed(cairo_t* context, const PaintedFace& painted)
@@ -157,12 +161,17 @@ void paintInnerRing(cairo_t* context, const PaintedFace& painted)
 
 }
 
-void paint(cairo_t* context, const PaintedFace& painted)
+void paintNothing(cairo_t* context)
 {
     cairo_set_operator(context, CAIRO_OPERATOR_CLEAR);
     cairo_paint(context);
     cairo_set_operator(context, CAIRO_OPERATOR_OVER);
-    const auto& [face, geometry, ground, frame, words, ring, isRingedInside, pressed] = painted;
+}
+
+void paint(cairo_t* context, const PaintedFace& painted)
+{
+    paintNothing(context);
+    const auto& [face, geometry, ground, frame, pictures, isRingedInside, pressed] = painted;
     const auto card = cardInPixels(geometry);
     {
         const CardPixels pixels(context, geometry);
@@ -178,19 +187,14 @@ void paint(cairo_t* context, const PaintedFace& painted)
         }
         if (frame)
             paintFrame(context, *frame, painted);
-        if (words)
-            paintPicture(context, *words, {});
     }
     if (pressed)
         paintPressed(context, painted);
     if (isRingedInside)
         paintInnerRing(context, painted);
-    if (ring) {
-        cairo_save(context);
-        cairo_translate(context, ring->place.x, ring->place.y);
-        cairo_scale(context, 1 / geometry.scale, 1 / geometry.scale);
-        paintPicture(context, ring->picture, {});
-        cairo_restore(context);
+    for (const auto* placed : pictures) {
+        if (placed)
+            paintPlaced(context, *placed, geometry.scale);
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <optional>
 
 #include "WidgetHost/Windows/CardViews.h"
@@ -15,8 +16,7 @@ struct PaintedFace {
     const WindowGeometry& geometry;
     CardGround ground;
     const WindowPictures::Frame* frame; // null: the card has no edge
-    const Picture* words; // null: there are none
-    const WindowPictures::Ring* ring; // null: no button has the keyboard
+    std::array<const WindowPictures::Placed*, 3> pictures; // over it, in order; null: none
     bool isRingedInside; // the whole has the keyboard, and nothing can be seen round it
     std::optional<Rect> pressed; // a button that is held down, in the window's points
 };
@@ -24,5 +24,8 @@ struct PaintedFace {
 /// Paints a window, as much of it as the context's clip lets through. A picture that was drawn for the window's pixels
 /// is copied as it is.
 void paint(_cairo* context, const PaintedFace& painted);
+
+/// Leaves only what lies below to be seen.
+void paintNothing(_cairo* context);
 
 }

@@ -4,112 +4,144 @@
 #include <utility>
 
 #include "WidgetHost/Windows/Monitors.h"
-#include "WidgetHost/Windows/SurfaceDrag.h"
 
 #include <gtk-layer-shell.h>
 #include <gtkmm.h>
-#include <wayland-client.h>
-
-#include <gdk/gdkwayland.h>
 
 namespace orvel {
 
 namespace {
 
-class LayerSurface final : public WindowSurface {
+void makeLayer(Gtk::Window& window, GtkLayerShellLayer layer, GtkLayerShellKeyboardMode keyboard)
+{
+    gtk_layer_init_for_window(window.gobj());
+    gtk_layer_set_namespace(window.gobj(), "orvel-widget");
+    gtk_layer_set_layer(window.gobj(), layer);
+    gtk_layer_set_anchor(window.gobj(), GTK_LAYER_SHELL_EDGE_TOP, TRUE);
+    gtk_layer_set_anchor(window.gobj(), GTK_LAYER_SHELL_EDGE_LEFT, TRUE);
+    gtk_layer_set_exclusive_zone(window.gobj(), 0);
+    gtk_layer_set_keyboard_mode(window.gobj(), keyboard);
+}
+
+void move(Gtk::Window& window, Point corner)
+{
+    gtk_layer_set_margin(window.gobj(), GTK_LAYER_SHELL_EDGE_LEFT, static_cast<int>(std::lround(corner.x)));
+    gtk_layer_set_margin(window.gobj(), GTK_LAYER_SHELL_EDGE_TOP, static_cast<int>(std::lround(corner.y)));
+}
+
+/// What follows the pointer: a picture that no pointer meets, above all windows.
+class DragImage {
 public:
-    explicit LayerSurface(Gtk::Window& window) : m_window(window)
+    DragImage(const Gtk::Window& original, Point corner, WindowSurface::Paint paint, std::function<void()> shown)
     {
-        gtk_layer_init_for_window(m_window.gobj());
-        gtk_layer_set_namespace(m_window.gobj(), "orvel-widget");
-        gtk_layer_set_layer(m_window.gobj(), GTK_LAYER_SHELL_LAYER_BOTTOM);
-        gtk_layer_set_anchor(m_window.gobj(), GTK_LAYER_SHELL_EDGE_TOP, TRUE);
-        gtk_layer_set_anchor(m_window.gobj(), GTK_LAYER_SHELL_EDGE_LEFT, TRUE);
-        gtk_layer_set_exclusive_zone(m_window.gobj(), 0);
-        gtk_layer_set_keyboard_mode(m_window.gobj(), GTK_LAYER_SHELL_KEYBOARD_MODE_ON_DEMAND);
+        m_window.set_decorated(false);
+        m_window.set_resizable(false);
+        m_window.set_app_paintable(true);
+        m_window.set_size_request(original.get_allocated_width(), original.get_allocated_height());
+        if (const auto visual = m_window.get_screen()->get_rgba_visual())
+            gtk_widget_set_visual(GTK_WIDGET(m_window.gobj()), visual->gobj());
+        makeLayer(m_window, GTK_LAYER_SHELL_LAYER_TOP, GTK_LAYER_SHELL_KEYBOARD_MODE_NONE);
+        auto* const constOriginal = const_cast<Gtk::Window&>(original).gobj();
+        if (auto* const monitor = gtk_layer_get_monitor(constOriginal))
+            gtk_layer_set_monitor(m_window.gobj(), monitor);
+        m_window.signal_draw().connect(
+            [paint = std::move(paint), shown = std::move(shown)](const Cairo::RefPtr<Cairo::Context>& context) {
+                paint(context->cobj());
+                shown();
+                return true;
+            },
+            false);
+        moveTo(corner);
+        m_window.input_shape_combine_region(Cairo::Region::create());
+        m_window.show();
     }
 
-    ~LayerSurface() override { forgetSign(); }
+    void moveTo(Point corner) { move(m_window, corner); }
+
+private:
+    Gtk::Window m_window;
+};
+
+class LayerSurface final : public WindowSurface {
+public:
+    LayerSurface(Gtk::Window& window, Paint paint) : m_window(window), m_paint(std::move(paint))
+    {
+        makeLayer(m_window, GTK_LAYER_SHELL_LAYER_BOTTOM, GTK_LAYER_SHELL_KEYBOARD_MODE_ON_DEMAND);
+    }
+
+    ~LayerSurface() override { m_later.disconnect(); }
 
     bool isPlaced() const override { return true; }
 
     void put(std::size_t index, const Output&, Point corner) override
     {
+        m_corner = corner;
         auto* const here = monitor(index);
         // To say again which monitor it is would take the surface away and bring it back.
         if (here && here != gtk_layer_get_monitor(m_window.gobj()))
             gtk_layer_set_monitor(m_window.gobj(), here);
-        move(corner);
+        move(m_window, corner);
     }
 
     void beginDrag(const Grip& grip) override
     {
-        m_drag.emplace(m_corner, grip.at.onWindow, [this](Point place) {
-            move(place);
-            awaitSign();
-        });
+        m_later.disconnect();
+        m_grip = grip.at.onWindow;
+        m_dragged = m_corner;
+        m_image = std::make_unique<DragImage>(m_window, m_corner, m_paint, [this] { imageShown(); });
     }
 
     void drag(const PointerPlace& pointer) override
     {
-        if (m_drag)
-            m_drag->pointerMoved(pointer.onWindow);
+        m_dragged = { m_corner.x + pointer.onWindow.x - m_grip.x, m_corner.y + pointer.onWindow.y - m_grip.y };
+        if (m_image)
+            m_image->moveTo(m_dragged);
     }
 
     std::optional<Point> endDrag() override
     {
-        if (!m_drag)
-            return std::nullopt;
-        const auto end = m_drag->wanted();
-        m_drag.reset();
-        forgetSign();
-        return end;
+        m_isLifted = false;
+        m_isOver = true;
+        m_window.queue_draw();
+        return m_dragged;
+    }
+
+    bool isLifted() const override { return m_isLifted; }
+
+    /// Only now may the image go, or for a moment there would be neither.
+    void settled() override
+    {
+        if (std::exchange(m_isOver, false))
+            m_later = Glib::signal_idle().connect([this] {
+                m_image.reset();
+                return false;
+            });
     }
 
 private:
-    void move(Point corner)
+    void imageShown()
     {
-        m_corner = corner;
-        gtk_layer_set_margin(m_window.gobj(), GTK_LAYER_SHELL_EDGE_LEFT, static_cast<int>(std::lround(corner.x)));
-        gtk_layer_set_margin(m_window.gobj(), GTK_LAYER_SHELL_EDGE_TOP, static_cast<int>(std::lround(corner.y)));
-        if (auto* const window = gtk_widget_get_window(GTK_WIDGET(m_window.gobj())); window && m_drag)
-            wl_surface_commit(gdk_wayland_window_get_wl_surface(window));
-    }
-
-    /// The compositor answers a question after all that it was told before it.
-    void awaitSign()
-    {
-        forgetSign();
-        m_sign = wl_display_sync(gdk_wayland_display_get_wl_display(gdk_display_get_default()));
-        static constexpr wl_callback_listener listener { .done = &LayerSurface::signed_ };
-        wl_callback_add_listener(m_sign, &listener, this);
-    }
-
-    static void signed_(void* surface, wl_callback*, std::uint32_t)
-    {
-        auto& self = *static_cast<LayerSurface*>(surface);
-        self.forgetSign();
-        if (self.m_drag)
-            self.m_drag->placeTaken();
-    }
-
-    void forgetSign()
-    {
-        if (auto* const sign = std::exchange(m_sign, nullptr))
-            wl_callback_destroy(sign);
+        if (m_isOver || std::exchange(m_isLifted, true))
+            return;
+        m_window.queue_draw();
     }
 
     Gtk::Window& m_window;
+    Paint m_paint;
     Point m_corner;
-    std::optional<SurfaceDrag> m_drag;
-    wl_callback* m_sign = nullptr;
+    Point m_grip;
+    Point m_dragged;
+    std::unique_ptr<DragImage> m_image;
+    bool m_isLifted = false;
+    bool m_isOver = false; // the drag, but the image is still there
+    sigc::connection m_later;
 };
 
 }
 
-std::unique_ptr<WindowSurface> layerSurface(Gtk::Window& window)
+std::unique_ptr<WindowSurface> layerSurface(Gtk::Window& window, WindowSurface::Paint paint)
 {
-    return std::make_unique<LayerSurface>(window);
+    return std::make_unique<LayerSurface>(window, std::move(paint));
 }
 
 }

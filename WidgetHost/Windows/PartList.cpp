@@ -24,12 +24,51 @@ bool isButtonOfAction(const PictureElement& element, const HostPicture& picture)
     });
 }
 
+/// What of a frame lies on the card: light and long words may reach beyond it, where there is no window any more.
+Rect onCard(const Rect& frame, const Rect& card)
+{
+    const double left = std::clamp(frame.x, card.x, card.right()), top = std::clamp(frame.y, card.y, card.bottom());
+    return { left, top, std::clamp(frame.right(), left, card.right()) - left,
+        std::clamp(frame.bottom(), top, card.bottom()) - top };
+}
+
 std::string allThatIsSaid(const HostPicture& picture)
 {
     std::string said;
     for (const auto& element : picture.elements)
         said += (said.empty() ? "" : "\n") + element.label;
     return said;
+}
+
+Rect placeOf(const PictureFrame& frame, const WidgetFace& face, const WindowGeometry& geometry)
+{
+    return onCard(placeInWindow(frame, geometry, face.pointScale), geometry.card);
+}
+
+void addElements(std::vector<ListedPart>& parts, const WidgetFace& face, const WindowGeometry& geometry)
+{
+    for (const auto& element : face.picture->elements) {
+        if (isButtonOfAction(element, *face.picture))
+            continue;
+        const auto role = fromRawValue<ElementRole>(element.role).value_or(ElementRole::text);
+        parts.push_back({
+            .meaning = { role, element.label },
+            .frame = placeOf(element.frame, face, geometry),
+            .opens = role == ElementRole::button && !face.picture->link.empty(),
+        });
+    }
+}
+
+void addActions(std::vector<ListedPart>& parts, const WidgetFace& face, const WindowGeometry& geometry)
+{
+    for (std::size_t index = 0; index < face.picture->actions.size(); ++index) {
+        const auto& action = face.picture->actions[index];
+        parts.push_back({
+            .meaning = { ElementRole::button, action.label, {}, true },
+            .frame = placeOf(action.frame, face, geometry),
+            .action = index,
+        });
+    }
 }
 
 }
@@ -43,29 +82,12 @@ std::vector<ListedPart> partsOf(const WidgetFace& face, const WindowGeometry& ge
         .frame = geometry.card,
         .opens = opens,
     } };
-    if (!face.picture)
-        return parts;
-    const auto place = [&](const PictureFrame& frame) { return placeInWindow(frame, geometry, face.pointScale); };
-    for (const auto& element : face.picture->elements) {
-        if (isButtonOfAction(element, *face.picture))
-            continue;
-        const auto role = fromRawValue<ElementRole>(element.role).value_or(ElementRole::text);
-        parts.push_back({
-            .meaning = { role, element.label },
-            .frame = place(element.frame),
-            .opens = opens && role == ElementRole::button,
-        });
-    }
+    if (face.picture)
+        addElements(parts, face, geometry);
     if (face.notice)
         parts.push_back({ .meaning = { ElementRole::text, *face.notice }, .frame = geometry.card });
-    for (std::size_t index = 0; index < face.picture->actions.size(); ++index) {
-        const auto& action = face.picture->actions[index];
-        parts.push_back({
-            .meaning = { ElementRole::button, action.label, {}, true },
-            .frame = place(action.frame),
-            .action = index,
-        });
-    }
+    if (face.picture)
+        addActions(parts, face, geometry);
     return parts;
 }
 

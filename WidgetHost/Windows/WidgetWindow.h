@@ -34,8 +34,8 @@ struct WidgetWindowEvents {
 ///
 /// With the pointer: a click opens or presses a button, a drag moves, the other button or a long touch opens the menu.
 /// With the keyboard: Tab goes to the buttons, Return and Space open or press, Alt and an arrow move the widget by 24
-/// points (with Shift by 4), the Menu key or Shift and F10 open the menu. Nothing removes a widget but its menu: a
-/// single key would lose its place.
+/// points, Control and an arrow by 4, the Menu key or Shift and F10 open the menu. Nothing removes a widget but its
+/// menu: a single key would lose its place.
 ///
 /// Nothing happens between one face and the next: no timer, no animation. Of a new face only what differs is painted.
 class WidgetWindow {

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <utility>
 
+#include "OrvelDesign/TokensSpace.h"
 #include "WidgetHost/Windows/ActivationToken.h"
 #include "WidgetHost/Windows/CardViews.h"
 #include "WidgetHost/Windows/FacePainter.h"
@@ -13,10 +14,16 @@
 
 namespace orvel {
 
+namespace {
+
+constexpr double fineStep = Tokens::Space::s1;
+
+}
+
 WindowContent::WindowContent(DesktopWindows& windows, std::optional<WidgetPlace> place, WidgetWindowEvents events)
     : m_windows(windows), m_events(std::move(events)), m_place(std::move(place))
 {
-    m_surface = WindowSurface::of(m_toolkit.window());
+    m_surface = WindowSurface::of(m_toolkit.window(), [this](_cairo* context) { paintCard(context); });
     m_parts = std::make_unique<WidgetParts>(m_toolkit.window(),
         WidgetParts::Doing {
             [this] { open(); }, [this](std::size_t action) { act(action); }, [this] { repaintAll(); } });
@@ -58,10 +65,10 @@ void WindowContent::show(WidgetFace face)
     m_face = std::move(face);
     if (changed.card)
         layOut();
-    else if (changed.parts || changed.notice)
+    else if (changed.parts)
         m_parts->show(*m_face, m_geometry);
-    if (changed.card || changed.notice)
-        m_words = m_windows.pictures().words(*m_face, m_geometry);
+    if (!changed.card && changed.notice)
+        makeNotice();
     repaint(changed);
     m_toolkit.window().set_title(m_face->name);
     if (isFirst)
@@ -76,9 +83,20 @@ void WindowContent::layOut()
     m_toolkit.takePointerIn(rowsOfCard(m_geometry));
     m_toolkit.saySurround(static_cast<int>(m_geometry.card.x));
     makeFrame();
+    m_placeholder = m_windows.pictures().placeholder(*m_face, m_geometry);
+    makeNotice();
     putInPlace();
     if (std::exchange(m_toldScale, scale) != scale && m_events.scaleChanged)
         m_events.scaleChanged(scale);
+}
+
+void WindowContent::makeNotice()
+{
+    if (m_notice)
+        m_toolkit.repaint(m_notice->place);
+    m_notice = m_windows.pictures().notice(*m_face, m_geometry);
+    if (m_notice)
+        m_toolkit.repaint(m_notice->place);
 }
 
 void WindowContent::surroundingsChanged()
@@ -86,7 +104,6 @@ void WindowContent::surroundingsChanged()
     if (!m_face)
         return;
     layOut();
-    m_words = m_windows.pictures().words(*m_face, m_geometry);
     m_toolkit.window().queue_draw();
 }
 
@@ -102,9 +119,6 @@ void WindowContent::repaint(const FaceChange& change)
     } else if (change.pixels) {
         m_toolkit.repaint(card);
     }
-    const double foot = CardNotice::height * m_face->pointScale + 1;
-    if (change.notice)
-        m_toolkit.repaint({ card.x, card.bottom() - foot, card.width, foot });
 }
 
 bool WindowContent::showsFocus() const
@@ -134,6 +148,14 @@ void WindowContent::repaintAll()
 
 void WindowContent::paint(_cairo* context)
 {
+    if (m_surface->isLifted())
+        return paintNothing(context);
+    paintCard(context);
+    m_surface->settled();
+}
+
+void WindowContent::paintCard(_cairo* context)
+{
     if (!m_face)
         return;
     std::optional<Rect> held;
@@ -145,8 +167,7 @@ void WindowContent::paint(_cairo* context)
             .geometry = m_geometry,
             .ground = cardGround(*m_face, m_toolkit.isComposited()),
             .frame = m_frame.get(),
-            .words = m_words.get(),
-            .ring = m_ring.get(),
+            .pictures = { m_placeholder.get(), m_notice.get(), m_ring.get() },
             .isRingedInside = m_geometry.card.x == 0 && showsFocus() && !m_parts->focusedAction(),
             .pressed = held });
 }
@@ -277,10 +298,10 @@ void WindowContent::released(const PointerPlace& pointer, std::uint32_t time)
 
 bool WindowContent::keyPressed(const KeyPress& press)
 {
-    const auto [key, isAlt, isShift, time] = press;
+    const auto& [key, isAlt, isControl, isShift, time] = press;
     m_eventTime = time;
-    const double step = isShift ? 4 : placeGap;
-    const auto move = [&, isHeld = isAlt](double x, double y) {
+    const double step = isControl ? fineStep : placeGap;
+    const auto move = [&, isHeld = isAlt != isControl](double x, double y) {
         if (isHeld)
             moveBy(x * step, y * step);
         return isHeld;

@@ -38,11 +38,13 @@ private:
 
     // What is seen.
     void layOut();
+    void makeNotice();
     void surroundingsChanged();
     void repaint(const FaceChange& change);
     void repaintAll();
     void makeFrame();
     void paint(_cairo* context);
+    void paintCard(_cairo* context);
     bool showsFocus() const;
 
     // Where it is.
@@ -73,8 +75,9 @@ private:
     std::int64_t m_shownSince = 0; // monotonic microseconds
 
     std::shared_ptr<const WindowPictures::Frame> m_frame;
-    std::shared_ptr<const Picture> m_words;
-    std::shared_ptr<const WindowPictures::Ring> m_ring;
+    std::shared_ptr<const WindowPictures::Placed> m_placeholder;
+    std::shared_ptr<const WindowPictures::Placed> m_notice;
+    std::shared_ptr<const WindowPictures::Placed> m_ring;
 
     WindowToolkit m_toolkit;
     std::unique_ptr<WindowSurface> m_surface;

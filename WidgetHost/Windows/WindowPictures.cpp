@@ -5,6 +5,7 @@
 
 #include "OrvelDesign/DesignBundle.h"
 #include "OrvelDesign/Drawn/FocusRing.h"
+#include "OrvelDesign/TokensSpace.h"
 #include "OrvelPlatform/Views/Primitives.h"
 #include "WidgetHost/Windows/CardViews.h"
 
@@ -19,12 +20,11 @@ double reachOfCorner(double radius)
     return radius + blurred;
 }
 
-template <typename T>
-std::shared_ptr<const T> sharedOrNull(std::expected<Picture, Fault> drawn, const auto& rest)
+/// Grown to whole points, so that what is drawn in it is as sharp as it was meant.
+Rect wholePoints(const Rect& rect)
 {
-    if (!drawn)
-        return nullptr; // memory is short, or the card enormous: better bare than not at all
-    return std::make_shared<const T>(T { *std::move(drawn), rest });
+    const double left = std::floor(rect.x), top = std::floor(rect.y);
+    return { left, top, std::ceil(rect.right()) - left, std::ceil(rect.bottom()) - top };
 }
 
 }
@@ -55,40 +55,53 @@ std::shared_ptr<const WindowPictures::Frame> WindowPictures::frame(
     const View view =
         Padding { .insets = Insets::all(room), .content = CardFrame { geometry.radius, hasEdge, isFocused } };
     auto drawn = renderer().draw(view, { .size = { side, side }, .scale = geometry.scale }, environmentOf(face));
-    auto made = sharedOrNull<Frame>(std::move(drawn), corner);
+    if (!drawn)
+        return nullptr; // memory is short: better bare than not at all
+    auto made = std::make_shared<const Frame>(Frame { *std::move(drawn), corner });
     kept = made;
     return made;
 }
 
-std::shared_ptr<const Picture> WindowPictures::words(const WidgetFace& face, const WindowGeometry& geometry)
+std::shared_ptr<const WindowPictures::Placed> WindowPictures::drawn(
+    const View& view, const WidgetFace& face, const WindowGeometry& geometry, const Rect& place, double magnification)
 {
-    std::vector<View> layers;
-    View words;
-    if (!face.picture)
-        words = CardPlaceholder { face.name, face.tint };
-    if (face.notice) {
-        const View notice = CardNotice { *face.notice, face.tint };
-        words = words.isNothing() ? notice : Overlay { std::move(words), notice };
-    }
-    if (words.isNothing())
-        return nullptr;
-    const Size points { geometry.card.width / face.pointScale, geometry.card.height / face.pointScale };
-    auto drawn =
-        renderer().draw(words, { .size = points, .scale = geometry.scale * face.pointScale }, environmentOf(face));
-    return drawn ? std::make_shared<const Picture>(*std::move(drawn)) : nullptr;
+    const Renderer::Request request { .size = { place.width / magnification, place.height / magnification },
+        .scale = geometry.scale * magnification };
+    auto picture = renderer().draw(view, request, environmentOf(face));
+    return picture ? std::make_shared<const Placed>(Placed { *std::move(picture), place }) : nullptr;
 }
 
-std::shared_ptr<const WindowPictures::Ring> WindowPictures::ring(
+std::shared_ptr<const WindowPictures::Placed> WindowPictures::placeholder(
+    const WidgetFace& face, const WindowGeometry& geometry)
+{
+    if (face.picture)
+        return nullptr;
+    return drawn(CardPlaceholder { face.name, face.tint }, face, geometry, geometry.card, face.pointScale);
+}
+
+std::shared_ptr<const WindowPictures::Placed> WindowPictures::notice(
+    const WidgetFace& face, const WindowGeometry& geometry)
+{
+    if (!face.notice)
+        return nullptr;
+    const View view = CardNotice { *face.notice, face.tint };
+    const auto& card = geometry.card;
+    const double most = card.width / face.pointScale - 2 * Tokens::Space::s2;
+    const auto environment = renderer().environment(environmentOf(face));
+    const auto size = measure(view, { most, CardNotice::height }, environment).size;
+    const double width = size.width * face.pointScale, height = size.height * face.pointScale;
+    // Half of it on the card; all of it where a card has nothing round it.
+    const double top = std::min(card.bottom() - height / 2, geometry.window.height - height);
+    return drawn(view, face, geometry, wholePoints({ card.center().x - width / 2, std::round(top), width, height }),
+        face.pointScale);
+}
+
+std::shared_ptr<const WindowPictures::Placed> WindowPictures::ring(
     const WidgetFace& face, const WindowGeometry& geometry, const Rect& button)
 {
     constexpr double room = FocusRing::outset + FocusRing::width + 1;
-    // Whole points keep the line as sharp as its corners allow.
-    const double left = std::floor(button.x), top = std::floor(button.y);
-    const Rect place =
-        Rect { left, top, std::ceil(button.right()) - left, std::ceil(button.bottom()) - top }.insetBy(-room);
     const View view = Padding { .insets = Insets::all(room), .content = ActionRing {} };
-    return sharedOrNull<Ring>(
-        renderer().draw(view, { .size = place.size(), .scale = geometry.scale }, environmentOf(face)), place);
+    return drawn(view, face, geometry, wholePoints(button).insetBy(-room), 1);
 }
 
 }

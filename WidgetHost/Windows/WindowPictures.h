@@ -26,16 +26,17 @@ public:
     std::shared_ptr<const Frame> frame(
         const WidgetFace& face, const WindowGeometry& geometry, bool hasEdge, bool isFocused);
 
-    /// What is written on the card, as large as it: the name where there is no picture, and the notice. Absent where
-    /// there is neither.
-    std::shared_ptr<const Picture> words(const WidgetFace& face, const WindowGeometry& geometry);
-
-    /// The ring round a button, with as much room on each side as it needs.
-    struct Ring {
+    /// A picture at a place of its own.
+    struct Placed {
         Picture picture;
         Rect place; // in the window's points
     };
-    std::shared_ptr<const Ring> ring(const WidgetFace& face, const WindowGeometry& geometry, const Rect& button);
+    /// The name in place of a picture; absent where there is one.
+    std::shared_ptr<const Placed> placeholder(const WidgetFace& face, const WindowGeometry& geometry);
+    /// The notice, over the card's lower edge; absent where there is none.
+    std::shared_ptr<const Placed> notice(const WidgetFace& face, const WindowGeometry& geometry);
+    /// The ring round a button, which is a place in the window.
+    std::shared_ptr<const Placed> ring(const WidgetFace& face, const WindowGeometry& geometry, const Rect& button);
 
 private:
     struct FrameKey {
@@ -49,6 +50,8 @@ private:
     };
 
     Renderer& renderer();
+    std::shared_ptr<const Placed> drawn(const View& view, const WidgetFace& face, const WindowGeometry& geometry,
+        const Rect& place, double magnification);
 
     std::unique_ptr<Renderer> m_renderer; // made when something is to be drawn
     std::map<FrameKey, std::weak_ptr<const Frame>> m_frames; // the windows keep them

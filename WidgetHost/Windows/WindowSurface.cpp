@@ -1,6 +1,7 @@
 #include "WidgetHost/Windows/WindowSurface.h"
 
 #include <cmath>
+#include <utility>
 
 #include "WidgetHost/Windows/LayerSurface.h"
 
@@ -87,12 +88,12 @@ private:
 
 }
 
-std::unique_ptr<WindowSurface> WindowSurface::of(Gtk::Window& window)
+std::unique_ptr<WindowSurface> WindowSurface::of(Gtk::Window& window, Paint paint)
 {
     if (GDK_IS_X11_DISPLAY(gdk_display_get_default()))
         return std::make_unique<X11Surface>(window);
     if (gtk_layer_is_supported())
-        return layerSurface(window);
+        return layerSurface(window, std::move(paint));
     return std::make_unique<PlainSurface>(window);
 }
 

@@ -2,11 +2,14 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 
 #include "OrvelPlatform/Views/Geometry.h"
 #include "WidgetHost/Windows/Places.h"
+
+struct _cairo;
 
 namespace Gtk {
 class Window;
@@ -33,8 +36,11 @@ struct Grip {
 /// corner.
 class WindowSurface {
 public:
+    /// What paints the window on another one of its size.
+    using Paint = std::function<void(_cairo* context)>;
+
     /// The best there is on this display. The window has not been shown yet, and outlives it.
-    static std::unique_ptr<WindowSurface> of(Gtk::Window& window);
+    static std::unique_ptr<WindowSurface> of(Gtk::Window& window, Paint paint);
 
     WindowSurface() = default;
     WindowSurface(const WindowSurface&) = delete;
@@ -50,6 +56,11 @@ public:
     virtual void beginDrag(const Grip& grip) = 0;
     virtual void drag(const PointerPlace& pointer) = 0;
     virtual std::optional<Point> endDrag() = 0;
+
+    /// Whether something else shows the window's picture for now, and the window itself nothing.
+    virtual bool isLifted() const { return false; }
+    /// The window was painted, and not as one that is lifted.
+    virtual void settled() { }
 };
 
 }

@@ -98,8 +98,9 @@ void WindowToolkit::listen(WindowHandlers handlers)
         before);
     window.signal_key_press_event().connect(
         [&told](GdkEventKey* event) {
-            return told.keyPressed({ event->keyval, (event->state & GDK_MOD1_MASK) != 0,
-                (event->state & GDK_SHIFT_MASK) != 0, event->time });
+            const auto isHeld = [event](unsigned modifier) { return (event->state & modifier) != 0; };
+            return told.keyPressed({ event->keyval, isHeld(GDK_MOD1_MASK), isHeld(GDK_CONTROL_MASK),
+                isHeld(GDK_SHIFT_MASK), event->time });
         },
         before);
     window.signal_delete_event().connect(

@@ -22,6 +22,7 @@ namespace orvel {
 struct KeyPress {
     unsigned key; // the toolkit's value for it
     bool isAlt;
+    bool isControl;
     bool isShift;
     std::uint32_t time;
 };
