@@ -59,6 +59,7 @@ public:
                 }));
             m_row.add(tile.widget());
         }
+        m_row.set_margin_top(static_cast<int>(Space::s1));
         m_column.pack_start(m_name, Gtk::PACK_SHRINK);
         m_column.pack_start(m_description, Gtk::PACK_SHRINK);
         m_column.pack_start(m_row, Gtk::PACK_SHRINK);
@@ -181,6 +182,7 @@ void Gallery::Window::arrange()
     m_page.pack_start(m_title, Gtk::PACK_SHRINK);
     m_page.pack_start(m_warning, Gtk::PACK_SHRINK);
     m_scrolling.set_policy(Gtk::POLICY_NEVER, Gtk::POLICY_AUTOMATIC);
+    m_scrolling.set_can_focus(false); // what is in it scrolls it
     m_scrolling.add(m_page);
     m_column.pack_start(m_scrolling, Gtk::PACK_EXPAND_WIDGET);
     m_column.pack_start(m_settings.widget(), Gtk::PACK_SHRINK);

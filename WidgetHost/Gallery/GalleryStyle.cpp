@@ -28,7 +28,10 @@ std::string edge(const StyleSheet& sheet)
     const auto colors = sheet.settings().colors;
     if (const auto border = cardEdge(LitEdge::resting, colors).border)
         return fmt::format("border: {}px solid {};", border->width, sheet.color(Palette::line));
-    return fmt::format("box-shadow: {};", StyleSheet::shadow(fallingShadow(colors)));
+    auto shadow = StyleSheet::shadow(fallingShadow(colors));
+    if (colors.dark) // a shadow alone does not show where a dark picture ends on a dark ground
+        shadow += fmt::format(", 0 0 0 1px {}", sheet.color(Palette::line));
+    return fmt::format("box-shadow: {};", shadow);
 }
 
 void addPreviews(StyleSheet& sheet)

@@ -72,6 +72,7 @@ struct PreviewTile::Parts {
     Gtk::Label add;
 
     GalleryPreview preview {};
+    std::string description;
     GalleryWords words {};
     sigc::connection isAddedNoMore;
     std::function<void()> chosen;
@@ -127,7 +128,9 @@ void PreviewTile::Parts::choose()
 
 void PreviewTile::Parts::sayWhatAClickDoes()
 {
-    add.set_text(isAddedNoMore.connected() ? words.added : words.add);
+    const bool isAdded = isAddedNoMore.connected();
+    add.set_text(isAdded ? words.added : words.add);
+    setAccessibleDescription(button, isAdded ? words.added : description);
 }
 
 bool PreviewTile::Parts::draw(const Context& context) const
@@ -156,9 +159,9 @@ void PreviewTile::show(const GallerySection& section, const GalleryPreview& prev
     parts.placeholder.set_text(section.name);
     parts.placeholder.set_visible(pixels(preview.picture.get()).empty());
     parts.sizeName.set_text(preview.sizeName);
+    parts.description = section.description;
     parts.sayWhatAClickDoes();
     setAccessibleName(parts.button, preview.addSpoken);
-    setAccessibleDescription(parts.button, section.description);
 }
 
 }

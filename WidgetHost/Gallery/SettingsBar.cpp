@@ -5,6 +5,7 @@
 
 #include "OrvelDesign/TokensSpace.h"
 #include "WidgetHost/Gallery/WrappingRow.h"
+#include "WidgetHost/Style/Accessible.h"
 
 #include <gtkmm.h>
 
@@ -89,6 +90,8 @@ void SettingsBar::show(const GalleryContent& content)
     auto& parts = *m_parts;
     parts.isShowing = true;
     parts.transparencyLabel.set_text(content.words.reduceTransparency);
+    setAccessibleName(parts.transparencySwitch, content.words.reduceTransparency);
+    setAccessibleName(parts.textScale, content.words.biggerText);
     parts.transparencySwitch.set_active(content.reducesTransparency);
     parts.textLabel.set_text(content.words.biggerText);
     parts.biggerText = content.biggerText;

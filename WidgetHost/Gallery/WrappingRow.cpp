@@ -92,7 +92,7 @@ private:
         Gtk::Allocation place;
     };
 
-    /// Places the children as if from the left, each row's in the middle of its height, and gives the whole height.
+    /// Places the children as if from the left and gives the whole height.
     template <typename Place>
     int arranged(int width, Place&& placeChild) const
     {
@@ -101,7 +101,7 @@ private:
         const auto endRow = [&] {
             for (auto& [child, place] : row) {
                 if (get_valign() == Gtk::ALIGN_CENTER)
-                    place.set_y(y + (rowHeight - place.get_height()) / 2);
+                    place.set_height(rowHeight); // in it the child stands in the middle
                 placeChild(*child, place);
             }
             row.clear();

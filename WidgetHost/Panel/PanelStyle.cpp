@@ -36,11 +36,10 @@ void addTiles(StyleSheet& sheet)
 {
     constexpr double corner = TileMetrics::corner;
     sheet.rule("button.tile",
-        fmt::format(
-            "min-width: {}px; min-height: {}px; padding: 0 {}px; border-radius: {}px; -gtk-outline-radius: {}px; "
-            "background-color: {}; {}",
-            TileMetrics::width - 2 * TileMetrics::inset, TileMetrics::height, TileMetrics::inset, corner, corner,
-            sheet.color(Palette::surface2), sheet.edge(LitEdge::resting)));
+        fmt::format("min-width: {}px; min-height: {}px; padding: {}px; border-radius: {}px; -gtk-outline-radius: {}px; "
+                    "background-color: {}; {}",
+            TileMetrics::width - 2 * TileMetrics::inset, TileMetrics::height - 2 * TileMetrics::inset,
+            TileMetrics::inset, corner, corner, sheet.color(Palette::surface2), sheet.edge(LitEdge::resting)));
     sheet.rule("button.tile:checked", sheet.edge(LitEdge::active));
     // A wash over the tile, which is no colour of the tile's own.
     const auto wash = [&](const OrvelColor& color) {

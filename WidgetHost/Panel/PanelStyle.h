@@ -9,7 +9,7 @@ namespace orvel {
 /// The sizes of a control's tile, in points: a round symbol, and beside it the title above the value.
 namespace TileMetrics {
 inline constexpr double width = 168, height = 76; // at least
-inline constexpr double inset = 12; // at the sides
+inline constexpr double inset = 12; // at all sides
 inline constexpr double corner = 22;
 inline constexpr double circle = 40;
 inline constexpr double symbol = 20; // its box, which its lines do not fill
