@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <fontconfig/fontconfig.h>
+#include <pango/pangocairo.h>
+#include <pango/pangofc-fontmap.h>
 #include <string>
 #include <system_error>
 #include <vector>
@@ -26,6 +28,10 @@ void addFonts(FcConfig* configuration, const fs::path& folder, std::string_view 
 void addFontsToProcess(const fs::path& folder)
 {
     addFonts(FcConfigGetCurrent(), folder);
+    // Whatever was written before, the toolkit looks again for what it writes next.
+    auto* const map = pango_cairo_font_map_get_default();
+    if (PANGO_IS_FC_FONT_MAP(map) != FALSE)
+        pango_fc_font_map_config_changed(PANGO_FC_FONT_MAP(map));
 }
 
 }

@@ -11,8 +11,7 @@ namespace orvel {
 /// adds none.
 void addFonts(_FcConfig* configuration, const std::filesystem::path& folder, std::string_view begin = {});
 
-/// Adds a folder's typefaces to those that the process's toolkit writes with, beside the system's. To be called before
-/// the first text.
+/// Adds a folder's typefaces to those that the process's toolkit writes with, beside the system's.
 void addFontsToProcess(const std::filesystem::path& folder);
 
 }

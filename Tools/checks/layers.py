@@ -57,11 +57,13 @@ BELOW = {
     ],
     "WidgetHost/Program": [
         "OrvelPlatform/Base", "OrvelPlatform/Desktop", "OrvelDesign", "WidgetHost/State", "WidgetHost/Words",
-        "WidgetHost/Face", "WidgetHost/Desk", "WidgetHost/Gallery", "WidgetHost/Style",
+        "WidgetHost/Face", "WidgetHost/Desk", "WidgetHost/Controls", "WidgetHost/Gallery", "WidgetHost/Panel",
+        "WidgetHost/Tray", "WidgetHost/Style",
     ],
     "WidgetHost/Program/Main": [
         "OrvelPlatform/Base", "OrvelPlatform/Desktop", "WidgetHost/State", "WidgetHost/Words", "WidgetHost/Face",
-        "WidgetHost/Desk", "WidgetHost/Windows", "WidgetHost/Gallery", "WidgetHost/Program",
+        "WidgetHost/Desk", "WidgetHost/Controls", "WidgetHost/Windows", "WidgetHost/Gallery", "WidgetHost/Panel",
+        "WidgetHost/Tray", "WidgetHost/Program",
     ],
     "WidgetHost/Face": ["OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Desktop", "WidgetHost/State"],
     "WidgetHost/Windows": [
@@ -80,7 +82,7 @@ SYSTEM = {
     r"(gio/|glib)": [
         "OrvelPlatform/Desktop", "WidgetHost", "WidgetHost/Tray", "WidgetHost/Windows.cpp", "WidgetHost/Program.cpp",
     ],
-    r"(gtk|gdk|X11/|wayland)": [
+    r"(gtk|gdk|X11/)": [
         "WidgetHost.cpp", "WidgetHost/Windows.cpp", "WidgetHost/Style.cpp", "WidgetHost/Gallery.cpp", "WidgetHost/Panel.cpp",
         "WidgetHost/Program/Main.cpp",
     ],

@@ -10,6 +10,7 @@
 #include "WidgetHost/Style/WindowStyle.h"
 #include "WidgetHost/Windows/ActivationToken.h"
 
+#include <gtk-layer-shell.h>
 #include <gtkmm.h>
 
 namespace orvel {
@@ -45,6 +46,7 @@ public:
 private:
     void arrange();
     void listen();
+    void standAbove();
     void followTheScreen();
     void offer(const std::vector<ControlFace>& controls);
     void use(const std::string& kind, std::optional<bool> wanted);
@@ -67,11 +69,33 @@ Panel::Window::Window(PanelEvents events) : m_events(std::move(events))
     window.set_type_hint(Gdk::WINDOW_TYPE_HINT_DIALOG);
     window.set_skip_taskbar_hint();
     window.set_skip_pager_hint();
-    window.set_keep_above();
-    window.set_position(Gtk::WIN_POS_MOUSE);
+    standAbove();
     followTheScreen();
     arrange();
     listen();
+}
+
+/// Near the pointer, which is where the tray was clicked. A Wayland client knows no place of its own: where it can, the
+/// panel stands in the corner in which most desktops have their tray.
+void Panel::Window::standAbove()
+{
+    if (gtk_layer_is_supported() == FALSE) {
+        window.set_keep_above();
+        window.set_position(Gtk::WIN_POS_MOUSE);
+        return;
+    }
+    auto* const surface = window.gobj();
+    gtk_layer_init_for_window(surface);
+    gtk_layer_set_namespace(surface, windowName);
+    gtk_layer_set_layer(surface, GTK_LAYER_SHELL_LAYER_TOP);
+    gtk_layer_set_anchor(surface, GTK_LAYER_SHELL_EDGE_TOP, TRUE);
+    window.signal_show().connect([surface] {
+        gtk_layer_set_keyboard_mode(surface, GTK_LAYER_SHELL_KEYBOARD_MODE_EXCLUSIVE); // at first
+    });
+    window.signal_focus_in_event().connect([surface](GdkEventFocus*) {
+        gtk_layer_set_keyboard_mode(surface, GTK_LAYER_SHELL_KEYBOARD_MODE_ON_DEMAND); // lets others be turned to
+        return false;
+    });
 }
 
 /// Where nothing shines through a window, the panel has a ground of its own up to its corners.
@@ -155,6 +179,10 @@ void Panel::Window::show(const PanelContent& content)
     m_gallery.set_label(content.words.addWidgets);
     m_quit.set_label(content.words.quit);
     setDirection(window, content.isRightToLeft);
+    if (gtk_layer_is_layer_window(window.gobj()) != FALSE) {
+        gtk_layer_set_anchor(window.gobj(), GTK_LAYER_SHELL_EDGE_RIGHT, content.isRightToLeft ? FALSE : TRUE);
+        gtk_layer_set_anchor(window.gobj(), GTK_LAYER_SHELL_EDGE_LEFT, content.isRightToLeft ? TRUE : FALSE);
+    }
 }
 
 void Panel::Window::offer(const std::vector<ControlFace>& controls)

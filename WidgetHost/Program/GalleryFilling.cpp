@@ -1,5 +1,6 @@
 #include "WidgetHost/Program/GalleryFilling.h"
 
+#include "WidgetHost/Program/SurroundingStyle.h"
 #include "WidgetHost/Words/HostWords.h"
 
 namespace orvel {
@@ -23,19 +24,6 @@ GallerySection section(const Desk& desk, const ExtensionMember& member, const Ho
     return section;
 }
 
-StyleSettings style(const Surroundings& around)
-{
-    const auto& appearance = around.appearance;
-    return {
-        .colors = { .dark = appearance.colorScheme == DesktopAppearance::ColorScheme::dark,
-            .increaseContrast = appearance.increasesContrast,
-            .reduceTransparency = around.reducesTransparency },
-        .reducesMotion = appearance.reducesMotion,
-        .biggerText = BiggerText(around.biggerText),
-        .textScale = appearance.textScale,
-    };
-}
-
 }
 
 GalleryContent galleryContent(const Desk& desk)
@@ -51,7 +39,7 @@ GalleryContent galleryContent(const Desk& desk)
         content.warning = { *std::move(warning), desk.members().isLastAnswerMissing() };
     content.words = galleryWords(words);
     if (around)
-        content.style = style(*around);
+        content.style = styleIn(*around);
     content.isRightToLeft = words.isRightToLeft();
     return content;
 }

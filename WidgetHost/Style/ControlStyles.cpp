@@ -18,13 +18,13 @@ void StyleSheet::addWindow()
     const ShadowLayer falling {
         .inset = false, .x = 0, .y = Space::s1, .blur = Space::s5, .spread = 0, .color = drop.color
     };
+    // The window's ground begins below its header.
     rule("&",
-        fmt::format("background-color: {}; color: {}; border-radius: {}px; {}", color(Palette::bg),
-            color(Palette::textPrimary), Radius::macRadiusWindow, font(MacTypeRole::body)));
+        fmt::format("background-color: {}; color: {}; border-radius: 0 0 {}px {}px; {}", color(Palette::bg),
+            color(Palette::textPrimary), Radius::macRadiusWindow, Radius::macRadiusWindow, font(MacTypeRole::body)));
     rule("decoration",
         fmt::format("border-radius: {}px; box-shadow: {}, 0 0 0 1px {}; margin: {}px;", Radius::macRadiusWindow,
             shadow(falling), color(Palette::line), Space::s3));
-    // The window's ground ends below its header.
     rule("headerbar",
         fmt::format("min-height: {}px; padding: 0 {}px; background-color: {}; border-radius: {}px {}px 0 0;",
             Space::s10, Space::s2, color(Palette::bg), Radius::macRadiusWindow, Radius::macRadiusWindow));

@@ -76,6 +76,7 @@ public:
     std::expected<void, Fault> serve();
     void watch();
     void show(const TrayContent& content);
+    bool hasTray() const { return m_hasTray; }
 
 private:
     /// The glyph at both sizes, as trays take it.
@@ -86,7 +87,7 @@ private:
     };
     static Icon icon(const TrayContent& content);
 
-    void enrol() const;
+    void enrol();
     void receive(MethodCall call);
     void keepToken(std::string token);
     TrayEvents::Token takeToken() { return std::exchange(m_token, std::nullopt); }
@@ -101,6 +102,7 @@ private:
     TrayMenu m_menu;
     std::optional<ServedObject> m_object;
     unsigned m_watch = 0; // 0: none
+    bool m_hasTray = false;
 };
 
 Tray::Item::Item(BusConnection connection, TrayContent content, TrayEvents events)
@@ -149,13 +151,16 @@ void Tray::Item::watch()
 {
     const LoopScope scope(m_connection.context());
     const auto appeared =
-        +[](_GDBusConnection*, const char*, const char*, void* self) { static_cast<const Item*>(self)->enrol(); };
+        +[](_GDBusConnection*, const char*, const char*, void* self) { static_cast<Item*>(self)->enrol(); };
+    const auto vanished =
+        +[](_GDBusConnection*, const char*, void* self) { static_cast<Item*>(self)->m_hasTray = false; };
     m_watch = g_bus_watch_name_on_connection(
-        m_connection.get(), TrayName::watcher, G_BUS_NAME_WATCHER_FLAGS_NONE, appeared, nullptr, this, nullptr);
+        m_connection.get(), TrayName::watcher, G_BUS_NAME_WATCHER_FLAGS_NONE, appeared, vanished, this, nullptr);
 }
 
-void Tray::Item::enrol() const
+void Tray::Item::enrol()
 {
+    m_hasTray = true;
     // Whether it wants us is the tray's affair, so that nobody waits for its answer.
     g_dbus_connection_call(m_connection.get(), TrayName::watcher, TrayPath::watcher, TrayName::watcher,
         "RegisterStatusNotifierItem", g_variant_new("(s)", m_service.c_str()), nullptr, G_DBUS_CALL_FLAGS_NO_AUTO_START,
@@ -242,6 +247,11 @@ Tray::~Tray() = default;
 void Tray::show(const TrayContent& content)
 {
     m_item->show(content);
+}
+
+bool Tray::isSeen() const
+{
+    return m_item->hasTray();
 }
 
 }

@@ -36,6 +36,9 @@ public:
 
     void show(const TrayContent& content);
 
+    /// Whether there is a tray that it can be seen in.
+    bool isSeen() const;
+
 private:
     class Item;
     explicit Tray(std::unique_ptr<Item> item);

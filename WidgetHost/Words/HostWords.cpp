@@ -88,6 +88,9 @@ std::string HostWords::reduceTransparency() const { return localized(m_language,
 std::string HostWords::biggerText() const { return localized(m_language, KEY("Bigger text")); }
 std::string HostWords::tryAgain() const { return localized(m_language, KEY("Try Again")); }
 
+// TRANSLATORS: spoken: the title of the small window with a switch for a Focus and a button for a breath
+std::string HostWords::controlsTitle() const { return localized(m_language, KEY("Orvel Controls")); }
+
 // TRANSLATORS: on a widget, in small letters: %@ a time of day
 std::string HostWords::notUpToDate(std::string_view since) const
 {

@@ -42,6 +42,9 @@ public:
     std::string biggerText() const;
     std::string tryAgain() const;
 
+    // The panel and the tray.
+    std::string controlsTitle() const;
+
     // What does not work.
     std::string notUpToDate(std::string_view since) const; // a time of day
     std::string noAnswer() const; // of the widgets' extension

@@ -40,12 +40,17 @@ HostApplication::HostApplication(EventLoop& loop, std::function<void()> quit)
     , m_services(m_requester, m_links)
     , m_desk(m_clock, m_services, m_file, Homeland::current, listener())
     , m_windows(windowWords)
-    , m_whenSet(m_clock.whenSet([this] { m_desk.clockWasSet(); }))
+    , m_controls(loop, m_clock, m_requester,
+          { .galleryChosen = [this](const std::string& token) { raiseGallery(token); }, .quitChosen = m_quit })
+    , m_whenSet(m_clock.whenSet([this] {
+        m_desk.clockWasSet();
+        m_controls.clockWasSet();
+    }))
     , m_settings(loop, [this](const DesktopAppearance& appearance) { m_desk.appearanceChanged(appearance); })
 {
     auto center = WidgetCenterListener::listen(loop,
         { .reloadTimelines = [this](const auto& kinds) { m_desk.reload(kinds); },
-            .reloadControls = [](const auto&) {} });
+            .reloadControls = [this](const auto& kinds) { m_controls.reload(kinds); } });
     if (center)
         m_center.emplace(*std::move(center));
 }
@@ -60,7 +65,7 @@ DeskListener HostApplication::listener()
     return {
         .faceChanged = [this](const std::string& id, const WidgetFace& face) { showFace(id, face); },
         .removed = [this](const std::string& id) { m_widgets.erase(id); },
-        .galleryChanged = [this] { updateGallery(); },
+        .galleryChanged = [this] { showRest(); },
     };
 }
 
@@ -99,7 +104,7 @@ void HostApplication::raiseGallery(const std::string& activationToken)
     if (!m_gallery)
         m_gallery = std::make_unique<Gallery>(galleryEvents());
     m_desk.showPreviews(m_gallery->scale());
-    updateGallery();
+    showRest();
     m_gallery->raise(activationToken);
 }
 
@@ -115,18 +120,21 @@ GalleryEvents HostApplication::galleryEvents()
     };
 }
 
-void HostApplication::updateGallery()
+/// Shows what is not a widget.
+void HostApplication::showRest()
 {
+    if (const auto& around = m_desk.surroundings())
+        m_controls.show(*around);
     if (m_gallery)
         m_gallery->show(galleryContent(m_desk));
 }
 
-/// A gallery out of sight costs nothing. Without it and without widgets there is nothing to run for.
+/// A gallery out of sight costs nothing. Without it, without widgets and without a tray nobody could reach the host.
 void HostApplication::galleryClosed()
 {
     m_gallery.reset();
     m_desk.showPreviews(std::nullopt);
-    if (m_desk.state().widgets.empty())
+    if (m_desk.state().widgets.empty() && !m_controls.isInTray())
         m_quit();
 }
 

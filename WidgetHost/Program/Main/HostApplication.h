@@ -15,13 +15,14 @@
 #include "WidgetHost/Desk/Desk.h"
 #include "WidgetHost/Gallery/Gallery.h"
 #include "WidgetHost/Program/HostCall.h"
+#include "WidgetHost/Program/Main/ControlSurfaces.h"
 #include "WidgetHost/Windows/DesktopWindows.h"
 #include "WidgetHost/Windows/WidgetWindow.h"
 
 namespace orvel {
 
-/// The running host: a desk, its windows and its gallery, and the desktop that tells them what changes. The toolkit is
-/// up before it; everything happens on the loop.
+/// The running host: a desk, its windows, its gallery and its controls, and the desktop that tells them what changes.
+/// The toolkit is up before it; everything happens on the loop.
 class HostApplication {
 public:
     /// `quit` ends the program; it may be called at any time after the loop began to turn.
@@ -40,7 +41,7 @@ private:
     WidgetWindowEvents windowEvents(const std::string& id);
     GalleryEvents galleryEvents();
     void showFace(const std::string& id, const WidgetFace& face);
-    void updateGallery();
+    void showRest();
     void galleryClosed();
 
     EventLoop& m_loop;
@@ -56,6 +57,8 @@ private:
     std::map<std::string, WidgetWindow> m_widgets;
     std::unique_ptr<Gallery> m_gallery; // while it is in sight
     SourceHandle m_galleryEnd;
+
+    ControlSurfaces m_controls;
 
     std::optional<WidgetCenterListener> m_center;
     std::unique_ptr<Clock::Timer> m_whenSet;
