@@ -53,7 +53,7 @@ SYSTEM = {
     r"simdjson": ["OrvelPlatform/Base"],
     r"(cairo|pango/|fontconfig/)": ["OrvelPlatform/Drawing"],
     r"(gio/|glib)": ["OrvelPlatform/Desktop", "WidgetHost", "WidgetHost/Windows.cpp"],
-    r"(gtk|gdk|X11/)": ["WidgetHost.cpp", "WidgetHost/Windows.cpp"],
+    r"(gtk|gdk|X11/|wayland)": ["WidgetHost.cpp", "WidgetHost/Windows.cpp"],
 }
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
