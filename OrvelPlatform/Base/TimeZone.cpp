@@ -1,13 +1,15 @@
 #include "OrvelPlatform/Base/TimeZone.h"
 
 #include <absl/time/internal/cctz/include/cctz/zone_info_source.h>
-#include <absl/time/time.h>
+#include <absl/time/internal/cctz/src/time_zone_if.h>
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <functional>
+#include <mutex>
 #include <utility>
+#include <vector>
 
 #include "OrvelPlatform/Base/ZoneData.h"
 
@@ -46,9 +48,8 @@ private:
 
 using FindSource = std::function<std::unique_ptr<cctz::ZoneInfoSource>(const std::string&)>;
 
-/// The calculator keeps a zone, and also a failure, under its name for life. So the name that it gets from us is the
-/// zone's data itself: other data is another zone, and one zone with two names is loaded once. Other users of the
-/// calculator in this process have their names looked up as ever.
+/// A calculator loads what is found under a name. The name that it gets from us is the zone's data itself; other users
+/// of the library in this process have their names looked up as ever.
 std::unique_ptr<cctz::ZoneInfoSource> sourceForName(const std::string& name, const FindSource& findSource)
 {
     if (!name.starts_with(zoneDataMark))
@@ -72,32 +73,66 @@ namespace {
 
 constexpr std::size_t maximumNameLength = 255;
 
-absl::Time instant(Date date)
+using Instant = cctz::time_point<cctz::seconds>;
+
+Instant instant(Date date)
 {
-    return absl::FromUnixMicros(date.time_since_epoch().count());
+    return std::chrono::floor<std::chrono::seconds>(date);
 }
 
-Date date(absl::Time instant)
+Date date(Instant instant)
 {
-    return Date { std::chrono::seconds { absl::ToUnixSeconds(instant) } };
+    return instant;
 }
 
-absl::CivilSecond civilSecond(std::chrono::local_seconds wallTime)
+cctz::civil_second civilSecond(std::chrono::local_seconds wallTime)
 {
-    return absl::CivilSecond(1970) + wallTime.time_since_epoch().count();
+    return cctz::civil_second(1970) + wallTime.time_since_epoch().count();
 }
 
-TimeZone::Meeting meeting(absl::TimeZone::TimeInfo::CivilKind kind)
+TimeZone::Meeting meeting(cctz::time_zone::civil_lookup::civil_kind kind)
 {
     switch (kind) {
-    case absl::TimeZone::TimeInfo::UNIQUE:
+    case cctz::time_zone::civil_lookup::UNIQUE:
         return TimeZone::Meeting::once;
-    case absl::TimeZone::TimeInfo::SKIPPED:
+    case cctz::time_zone::civil_lookup::SKIPPED:
         return TimeZone::Meeting::never;
-    case absl::TimeZone::TimeInfo::REPEATED:
+    case cctz::time_zone::civil_lookup::REPEATED:
         return TimeZone::Meeting::twice;
     }
     return TimeZone::Meeting::once;
+}
+
+using Calculator = std::shared_ptr<const cctz::TimeZoneIf>;
+
+/// The calculator of a zone's data, null where that is none. Requests name zones again and again, so that the last few
+/// stay. The number is bounded, because anyone on the bus may name new rules; the library's own store keeps every zone
+/// for the life of the process, 40 kB each.
+Calculator calculatorOf(const std::string& zoneData)
+{
+    constexpr std::size_t mostKept = 16;
+    struct Store {
+        std::mutex mutex;
+        std::vector<std::pair<std::string, Calculator>> lastUsedFirst;
+    };
+    // Never destroyed: threads may still ask while a process ends.
+    static auto& store = *std::make_unique<Store>().release();
+
+    const std::scoped_lock lock(store.mutex);
+    auto& entries = store.lastUsedFirst;
+    auto found = std::ranges::find(
+        entries, zoneData, [](const auto& entry) -> auto& { return entry.first; });
+    if (found == entries.end()) {
+        Calculator loaded = cctz::TimeZoneIf::Load(zoneData);
+        if (!loaded)
+            return nullptr;
+        if (entries.size() == mostKept)
+            entries.pop_back();
+        entries.emplace_back(zoneData, std::move(loaded));
+        found = entries.end() - 1;
+    }
+    std::rotate(entries.begin(), found, found + 1);
+    return entries.front().second;
 }
 
 fs::path databaseFolder()
@@ -130,17 +165,18 @@ std::string nameOfFile(const fs::path& path)
 
 struct TimeZone::Rules {
     std::string name;
-    absl::TimeZone calculator;
+    std::string zoneData;
+    Calculator calculator;
 };
 
 TimeZone::TimeZone(std::shared_ptr<const Rules> rules) : m_rules(std::move(rules)) { }
 
 std::optional<TimeZone> TimeZone::make(std::string_view name, const std::optional<std::string>& zoneData)
 {
-    absl::TimeZone calculator;
-    if (!zoneData || !absl::LoadTimeZone(*zoneData, &calculator))
+    auto calculator = zoneData ? calculatorOf(*zoneData) : nullptr;
+    if (!calculator)
         return std::nullopt;
-    return TimeZone(std::make_shared<const Rules>(std::string(name), calculator));
+    return TimeZone(std::make_shared<const Rules>(std::string(name), *zoneData, std::move(calculator)));
 }
 
 std::optional<TimeZone> TimeZone::atPath(std::string_view path)
@@ -154,7 +190,7 @@ std::optional<TimeZone> TimeZone::atPath(std::string_view path)
 
 TimeZone TimeZone::utc()
 {
-    static const TimeZone zone(std::make_shared<const Rules>("UTC", absl::UTCTimeZone()));
+    static const TimeZone zone(std::make_shared<const Rules>("UTC", "", cctz::TimeZoneIf::Load("UTC")));
     return zone;
 }
 
@@ -194,7 +230,7 @@ const std::string& TimeZone::name() const
 
 std::chrono::seconds TimeZone::offset(Date date) const
 {
-    return std::chrono::seconds { m_rules->calculator.At(instant(date)).offset };
+    return std::chrono::seconds { m_rules->calculator->BreakTime(instant(date)).offset };
 }
 
 WallTime TimeZone::wallTime(Date date) const
@@ -204,17 +240,17 @@ WallTime TimeZone::wallTime(Date date) const
 
 std::string TimeZone::abbreviation(Date date) const
 {
-    return m_rules->calculator.At(instant(date)).zone_abbr;
+    return m_rules->calculator->BreakTime(instant(date)).abbr;
 }
 
 TimeZone::Instants TimeZone::instants(WallTime wallTime) const
 {
     const auto second = std::chrono::floor<std::chrono::seconds>(wallTime);
     const auto fraction = wallTime - second;
-    const auto found = m_rules->calculator.At(civilSecond(second));
+    const auto found = m_rules->calculator->MakeTime(civilSecond(second));
     const auto before = date(found.pre) + fraction;
     const auto after = date(found.post) + fraction;
-    const auto isOnce = found.kind == absl::TimeZone::TimeInfo::UNIQUE;
+    const auto isOnce = found.kind == cctz::time_zone::civil_lookup::UNIQUE;
     return { .meeting = meeting(found.kind),
         .earlier = std::min(before, after),
         .later = std::max(before, after),
@@ -223,10 +259,10 @@ TimeZone::Instants TimeZone::instants(WallTime wallTime) const
 
 std::optional<Date> TimeZone::nextChange(Date after) const
 {
-    const auto& calculator = m_rules->calculator;
-    absl::TimeZone::CivilTransition change;
+    const auto& calculator = *m_rules->calculator;
+    cctz::time_zone::civil_transition change;
     for (auto from = instant(after); calculator.NextTransition(from, &change);) {
-        from = calculator.At(change.to).trans;
+        from = calculator.MakeTime(change.to).trans;
         if (from > instant(latestDate))
             return std::nullopt;
         if (change.from != change.to) // else only the name changes
@@ -246,7 +282,7 @@ std::optional<Date> TimeZone::nextChange(Date after) const
 bool operator==(const TimeZone& left, const TimeZone& right)
 {
     return left.m_rules == right.m_rules
-        || (left.name() == right.name() && left.m_rules->calculator == right.m_rules->calculator);
+        || (left.name() == right.name() && left.m_rules->zoneData == right.m_rules->zoneData);
 }
 
 }

@@ -16,11 +16,6 @@ namespace orvel {
 
 namespace {
 
-double points(int units)
-{
-    return static_cast<double>(units) / PANGO_SCALE;
-}
-
 std::vector<PangoLayoutLine*> linesOf(PangoLayout* layout)
 {
     std::vector<PangoLayoutLine*> lines;
@@ -98,13 +93,6 @@ PangoRectangle inkOf(PangoLayoutLine* line)
     return ink;
 }
 
-double widthOf(PangoLayoutLine* line)
-{
-    PangoRectangle logical;
-    pango_layout_line_get_extents(line, nullptr, &logical);
-    return points(logical.width);
-}
-
 HorizontalAlignment horizontal(TextAlignment alignment)
 {
     switch (alignment) {
@@ -123,9 +111,10 @@ struct GlyphItemRelease {
 };
 using GlyphItem = std::unique_ptr<PangoGlyphItem, GlyphItemRelease>;
 
-double widthOf(const GlyphItem& item)
+/// In the layout's own lengths.
+double itemWidth(const GlyphItem& item)
 {
-    return points(pango_glyph_string_get_width(item->glyphs));
+    return static_cast<double>(pango_glyph_string_get_width(item->glyphs)) / PANGO_SCALE;
 }
 
 /// The item's parts of one run each, in the order in which they are seen.
@@ -147,9 +136,12 @@ std::vector<GlyphItem> partsByRun(const PangoGlyphItem* item, const char* text, 
 
 }
 
-PangoShapedText::PangoShapedText(Handle<PangoLayout> layout, const TextBlock& block, std::vector<std::size_t> runEnds,
-    double ascent, double descent, std::shared_ptr<GlyphMasks> glyphs)
-    : m_layout(std::move(layout)), m_glyphs(std::move(glyphs)), m_runEnds(std::move(runEnds))
+PangoShapedText::PangoShapedText(
+    Set set, const TextBlock& block, double ascent, double descent, std::shared_ptr<GlyphMasks> glyphs)
+    : m_layout(std::move(set.layout))
+    , m_layoutScale(set.scale)
+    , m_glyphs(std::move(glyphs))
+    , m_runEnds(std::move(set.runEnds))
 {
     setLines(block);
     const double lineHeight = block.runs.front().style.lineHeight;
@@ -162,6 +154,18 @@ PangoShapedText::PangoShapedText(Handle<PangoLayout> layout, const TextBlock& bl
 }
 
 PangoShapedText::~PangoShapedText() = default;
+
+double PangoShapedText::points(int units) const
+{
+    return static_cast<double>(units) / PANGO_SCALE * m_layoutScale;
+}
+
+double PangoShapedText::widthOf(PangoLayoutLine* line) const
+{
+    PangoRectangle logical;
+    pango_layout_line_get_extents(line, nullptr, &logical);
+    return points(logical.width);
+}
 
 void PangoShapedText::setLines(const TextBlock& block)
 {
@@ -189,7 +193,7 @@ void PangoShapedText::addOutlines(cairo_t* context, std::size_t line, std::size_
                 pango_cairo_glyph_string_path(context, part->item->analysis.font, part->glyphs);
                 x = 0;
             }
-            x += widthOf(part);
+            x += itemWidth(part);
         }
     }
 }
@@ -224,7 +228,8 @@ void PangoShapedText::addGlyphs(Mask& mask, std::size_t line, double scale, int 
             if (info.glyph == PANGO_GLYPH_EMPTY)
                 continue;
             const int pixel = place >> 8; // rounds down also what is negative
-            add(m_glyphs->find(item->item->analysis.font, info.glyph, scale, static_cast<unsigned>(place & 0xff)),
+            add(m_glyphs->find(
+                    item->item->analysis.font, info.glyph, scale * m_layoutScale, static_cast<unsigned>(place & 0xff)),
                 mask.coverage.get(), pixel, baseline - mask.top);
         }
     }
@@ -258,7 +263,7 @@ PangoShapedText::Mask PangoShapedText::drawnMask(double scale, std::size_t run) 
     for (std::size_t i = 0; i < all.size(); ++i) {
         cairo_identity_matrix(context.get());
         cairo_translate(context.get(), lines[i].x * scale - mask.left, baseline(i) - mask.top);
-        cairo_scale(context.get(), scale, scale);
+        cairo_scale(context.get(), scale * m_layoutScale, scale * m_layoutScale);
         cairo_move_to(context.get(), 0, 0);
         if (run == allRuns)
             pango_cairo_layout_line_path(context.get(), all[i]);
@@ -286,8 +291,12 @@ void PangoShapedText::show(cairo_t* context) const
 {
     const auto all = linesOf(m_layout.get());
     for (std::size_t i = 0; i < all.size(); ++i) {
-        cairo_move_to(context, lines[i].x, m_baselines[i]);
+        cairo_save(context);
+        cairo_translate(context, lines[i].x, m_baselines[i]);
+        cairo_scale(context, m_layoutScale, m_layoutScale);
+        cairo_move_to(context, 0, 0);
         pango_cairo_show_layout_line(context, all[i]);
+        cairo_restore(context);
     }
 }
 

@@ -9,6 +9,8 @@
 #include "OrvelPlatform/Drawing/Handles.h"
 #include "OrvelPlatform/Views/TextSystem.h"
 
+struct _PangoLayoutLine;
+
 namespace orvel {
 
 /// A paragraph with its glyphs, which draws itself.
@@ -25,9 +27,14 @@ public:
         int top;
     };
 
-    /// `runEnds` are byte offsets into the layout's text.
-    PangoShapedText(Handle<_PangoLayout> layout, const TextBlock& block, std::vector<std::size_t> runEnds,
-        double ascent, double descent, std::shared_ptr<GlyphMasks> glyphs);
+    /// A layout's lengths are to be taken `scale` times; `runEnds` are byte offsets into its text.
+    struct Set {
+        Handle<_PangoLayout> layout;
+        double scale;
+        std::vector<std::size_t> runEnds;
+    };
+
+    PangoShapedText(Set set, const TextBlock& block, double ascent, double descent, std::shared_ptr<GlyphMasks> glyphs);
     ~PangoShapedText() override;
 
     /// The mask at a scale, of one run or of all together. Kept for the last scale asked for.
@@ -44,6 +51,8 @@ public:
 private:
     static constexpr std::size_t allRuns = static_cast<std::size_t>(-1);
 
+    double points(int units) const;
+    double widthOf(_PangoLayoutLine* line) const;
     void setLines(const TextBlock& block);
     const Mask& maskOf(double scale, std::size_t run) const;
     Mask drawnMask(double scale, std::size_t run) const;
@@ -52,6 +61,7 @@ private:
     void addOutlines(_cairo* context, std::size_t line, std::size_t run) const;
 
     Handle<_PangoLayout> m_layout;
+    double m_layoutScale;
     std::shared_ptr<GlyphMasks> m_glyphs;
     std::vector<std::size_t> m_runEnds;
     std::vector<double> m_baselines; // a line each, from the top

@@ -35,6 +35,25 @@ FontSupply leastSupply(const TextBlock& block)
     return std::ranges::all_of(block.runs, isRounded) ? FontSupply::rounded : FontSupply::own;
 }
 
+/// The library looks for a typeface anew, in two threads, and measures a sample text with it for each size that it is
+/// asked for. Letters that are not fitted to pixels are alike in all sizes, so that every paragraph is laid out with
+/// its first letters in one size, and all its lengths are taken so many times.
+double layoutScale(const TextBlock& block)
+{
+    constexpr double sizeInLayouts = 32;
+    const double size = block.runs.front().style.size;
+    return size > 0 ? size / sizeInLayouts : 1;
+}
+
+TextBlock enlarged(TextBlock block, double by)
+{
+    for (auto& run : block.runs) {
+        run.style.size *= by;
+        run.style.tracking *= by;
+    }
+    return block;
+}
+
 bool isWhole(PangoLayout* layout)
 {
     return pango_layout_get_unknown_glyphs_count(layout) == 0;
@@ -159,18 +178,20 @@ PangoTextSystem::Shown PangoTextSystem::shown(const TextBlock& block, double wid
 
 std::shared_ptr<const ShapedText> PangoTextSystem::shapeAfresh(const TextBlock& block, double width)
 {
-    auto [paragraph, context, layout] = shown(block, width);
+    const double scale = layoutScale(block);
+    auto [paragraph, context, layout] = shown(enlarged(block, 1 / scale), width / scale);
     const bool isCut = pango_layout_is_ellipsized(layout.get()) != FALSE;
     if (auto better = isCut ? paragraph.cutWell(layout.get()) : std::nullopt) {
         paragraph = *std::move(better);
-        layout = paragraph.layout(width, context);
+        layout = paragraph.layout(width / scale, context);
     }
     if (block.balanced && !isCut && std::isfinite(width))
         balance(layout.get());
     const auto& style = block.runs.front().style;
     const auto [ascent, descent] = heights(style, layout.get());
-    auto text = std::make_shared<PangoShapedText>(
-        std::move(layout), block, paragraph.runEnds(), ascent * style.size, descent * style.size, m_glyphs);
+    auto text =
+        std::make_shared<PangoShapedText>(PangoShapedText::Set { std::move(layout), scale, paragraph.runEnds() }, block,
+            ascent * style.size, descent * style.size, m_glyphs);
     text->isCut = isCut;
     return text;
 }

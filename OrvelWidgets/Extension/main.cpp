@@ -1,3 +1,5 @@
+#include <malloc.h>
+
 #include "OrvelPlatform/Desktop/DesktopClock.h"
 #include "OrvelPlatform/Desktop/ExtensionRunner.h"
 #include "OrvelPlatform/Desktop/LinkOpener.h"
@@ -16,10 +18,19 @@ public:
     }
 };
 
+/// Pictures are made now and then and given away at once. By itself the allocator would keep the room of the largest
+/// from the first on, in pieces.
+void giveLargeMemoryBack()
+{
+    constexpr int large = 256 << 10; // bytes
+    ::mallopt(M_MMAP_THRESHOLD, large);
+}
+
 }
 
 int main()
 {
+    giveLargeMemoryBack();
     EventLoop loop;
     DesktopClock clock(loop);
     LinkOpener workspace(loop);

@@ -239,3 +239,14 @@ TEST_F(TimeZones, tellWhenClocksChangeNext)
         EXPECT_EQ(change ? iso8601(*change).value() : "", c.change) << c.zone << c.date;
     }
 }
+
+TEST_F(TimeZones, outliveTheirPlaceAmongTheLastOnesAskedFor)
+{
+    const auto berlin = TimeZone::named("Europe/Berlin").value();
+    for (auto hours = -12; hours <= 12; ++hours) {
+        for (const auto* suffix : { "", ":30" })
+            EXPECT_EQ(TimeZone::forSetting(("XXX" + std::to_string(hours) + suffix).c_str()).abbreviation({}), "XXX");
+    }
+    EXPECT_EQ(berlin.abbreviation(at("2026-07-01T00:00:00Z")), "CEST");
+    EXPECT_EQ(berlin, TimeZone::named("Europe/Berlin"));
+}
