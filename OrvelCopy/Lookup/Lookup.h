@@ -125,6 +125,17 @@ std::string localized(Written, const Values&... values)
     return Detail::composedText(key, std::array<Insertion, sizeof...(Values)> { Detail::insertion(values)... });
 }
 
+/// The same in one language, which may be of other tables than the catalogue's.
+template <typename Written, Insertable... Values>
+std::string localized(const Language& language, Written, const Values&... values)
+{
+    static_assert(isSound<Values...>(Written {}()));
+    constexpr auto role = sizeof...(Values) == 0 ? Detail::Role::constant : Detail::Role::composed;
+    const auto& key = Detail::listed<Written, role>.key;
+    return Detail::composedText(
+        key, std::array<Insertion, sizeof...(Values)> { Detail::insertion(values)... }, language);
+}
+
 /// Whether the words of this thread's request, or else the process's own, are written from right to left.
 bool isRightToLeft();
 

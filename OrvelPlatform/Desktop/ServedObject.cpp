@@ -9,26 +9,38 @@
 
 namespace orvel {
 
+struct ServedObject::Served {
+    std::string path;
+    _GDBusInterfaceInfo* interface;
+    Handler handler;
+    PropertyReader property;
+};
+
 namespace {
 
-using Handler = ServedObject::Handler;
-
+template <typename Served>
 void call(_GDBusConnection*, const char*, const char*, const char*, const char*, _GVariant*,
     _GDBusMethodInvocation* invocation, void* data)
 {
-    const auto handler = *static_cast<Handler*>(data); // the object may be taken away by what it does
+    const auto handler = static_cast<Served*>(data)->handler; // the object may be taken away by what it does
     handler(MethodCall(invocation));
 }
 
-/// Version is the only property that the contract has.
-_GVariant* property(_GDBusConnection*, const char*, const char*, const char*, const char*, _GError**, void*)
+template <typename Served>
+_GVariant* property(
+    _GDBusConnection*, const char*, const char*, const char*, const char* name, _GError** error, void* data)
 {
-    return g_variant_new_uint32(contractVersion);
+    auto value = static_cast<Served*>(data)->property(name);
+    if (!value)
+        g_set_error(error, G_DBUS_ERROR, G_DBUS_ERROR_UNKNOWN_PROPERTY, "%s has no value.", name);
+    return value.release();
 }
 
-constexpr GDBusInterfaceVTable table {
-    .method_call = &call, .get_property = &property, .set_property = {}, .padding = {}
-};
+/// Version is the only property that the contract has.
+VariantHandle contractProperty(std::string_view)
+{
+    return VariantHandle(g_variant_ref_sink(g_variant_new_uint32(contractVersion)));
+}
 
 }
 
@@ -81,26 +93,36 @@ void MethodCall::Release::operator()(_GDBusMethodInvocation* invocation) const
 std::expected<ServedObject, Fault> ServedObject::serve(
     const BusConnection& connection, const char* path, const char* interface, Handler handler)
 {
-    const LoopScope scope(connection.context());
-    auto kept = std::make_unique<Handler>(std::move(handler));
-    ErrorHandle error;
-    const auto identifier = g_dbus_connection_register_object(
-        connection.get(), path, contractInterface(interface), &table, kept.get(), nullptr, ErrorOut { error });
-    if (identifier == 0)
-        return std::unexpected(Fault { .where = path, .why = error->message, .cause = {} });
-    return ServedObject(connection.get(), std::move(kept), identifier);
+    return serve(connection, path, contractInterface(interface), std::move(handler), &contractProperty);
 }
 
-ServedObject::ServedObject(_GDBusConnection* connection, std::unique_ptr<Handler> handler, unsigned identifier)
+std::expected<ServedObject, Fault> ServedObject::serve(const BusConnection& connection, const char* path,
+    _GDBusInterfaceInfo* interface, Handler handler, PropertyReader property)
+{
+    static constexpr GDBusInterfaceVTable table {
+        .method_call = &orvel::call<Served>, .get_property = &orvel::property<Served>, .set_property = {}, .padding = {}
+    };
+    const LoopScope scope(connection.context());
+    auto served = std::make_unique<Served>(Served {
+        .path = path, .interface = interface, .handler = std::move(handler), .property = std::move(property) });
+    ErrorHandle error;
+    const auto identifier = g_dbus_connection_register_object(
+        connection.get(), path, interface, &table, served.get(), nullptr, ErrorOut { error });
+    if (identifier == 0)
+        return std::unexpected(Fault { .where = path, .why = error->message, .cause = {} });
+    return ServedObject(connection.get(), std::move(served), identifier);
+}
+
+ServedObject::ServedObject(_GDBusConnection* connection, std::unique_ptr<Served> served, unsigned identifier)
     : m_connection(static_cast<_GDBusConnection*>(g_object_ref(connection)))
-    , m_handler(std::move(handler))
+    , m_served(std::move(served))
     , m_identifier(identifier)
 {
 }
 
 ServedObject::ServedObject(ServedObject&& other) noexcept
     : m_connection(std::move(other.m_connection))
-    , m_handler(std::move(other.m_handler))
+    , m_served(std::move(other.m_served))
     , m_identifier(std::exchange(other.m_identifier, 0))
 {
 }
@@ -109,6 +131,12 @@ ServedObject::~ServedObject()
 {
     if (m_identifier != 0)
         g_dbus_connection_unregister_object(m_connection.get(), m_identifier);
+}
+
+void ServedObject::emit(const char* signal, _GVariant* arguments) const
+{
+    g_dbus_connection_emit_signal(
+        m_connection.get(), nullptr, m_served->path.c_str(), m_served->interface->name, signal, arguments, nullptr);
 }
 
 }

@@ -9,6 +9,7 @@
 #include "OrvelPlatform/Desktop/AnswerWriting.h"
 #include "OrvelPlatform/Desktop/BusConnection.h"
 
+struct _GDBusInterfaceInfo;
 struct _GDBusMethodInvocation;
 
 namespace orvel {
@@ -37,24 +38,36 @@ private:
     std::unique_ptr<_GDBusMethodInvocation, Release> m_invocation;
 };
 
-/// An interface of the contract, served at a path as long as this lives. Calls arrive on the connection's loop. The
-/// connection outlives it.
+/// An interface served at a path as long as this lives. Calls arrive on the connection's loop, with arguments of the
+/// types that the interface says. The connection outlives it.
 class ServedObject {
 public:
     using Handler = std::function<void(MethodCall)>;
 
+    /// What a property holds now; one of the interface's own, the bus library refuses others.
+    using PropertyReader = std::function<VariantHandle(std::string_view property)>;
+
+    /// An interface of the contract.
     [[nodiscard]] static std::expected<ServedObject, Fault> serve(
         const BusConnection& connection, const char* path, const char* interface, Handler handler);
+
+    /// Any other one, which lives as long as the object.
+    [[nodiscard]] static std::expected<ServedObject, Fault> serve(const BusConnection& connection, const char* path,
+        _GDBusInterfaceInfo* interface, Handler handler, PropertyReader property);
 
     ServedObject(ServedObject&& other) noexcept;
     ServedObject& operator=(ServedObject&&) = delete;
     ~ServedObject();
 
+    /// Tells whoever listens. `arguments` is a tuple (null: no arguments).
+    void emit(const char* signal, _GVariant* arguments = nullptr) const;
+
 private:
-    ServedObject(_GDBusConnection* connection, std::unique_ptr<Handler> handler, unsigned identifier);
+    struct Served;
+    ServedObject(_GDBusConnection* connection, std::unique_ptr<Served> served, unsigned identifier);
 
     ConnectionHandle m_connection;
-    std::unique_ptr<Handler> m_handler; // GDBus knows where it lies
+    std::unique_ptr<Served> m_served; // GDBus knows where it lies
     unsigned m_identifier; // 0: none
 };
 

@@ -1,30 +1,16 @@
 #include "OrvelPlatform/Drawing/FontMaps.h"
 
-#include <algorithm>
 #include <pango/pangocairo.h>
 #include <pango/pangofc-fontmap.h>
-#include <system_error>
 #include <utility>
-#include <vector>
+
+#include "OrvelPlatform/Drawing/FontFolder.h"
 
 namespace orvel {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-void addFonts(FcConfig* configuration, const fs::path& folder)
-{
-    std::error_code error;
-    std::vector<std::string> files;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
-        if (entry->path().extension() == ".ttf")
-            files.push_back(entry->path().string());
-    }
-    std::ranges::sort(files); // a folder's order is anyone's guess
-    for (const auto& file : files)
-        FcConfigAppFontAddFile(configuration, reinterpret_cast<const FcChar8*>(file.c_str()));
-}
 
 /// Letters exactly as they were drawn, at any place: the same widths at every scale.
 Handle<PangoContext> contextFor(PangoFontMap* map, LayoutDirection direction)

@@ -37,14 +37,41 @@ BELOW = {
     "WidgetHost": [
         "OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Drawing", "OrvelPlatform/Desktop",
         "OrvelCopy/Lookup", "OrvelDesign", "OrvelDesign/Drawn", "WidgetHost/Schedule", "WidgetHost/State",
+        "WidgetHost/Style", "WidgetHost/Gallery", "WidgetHost/Panel", "WidgetHost/Windows", "WidgetHost/Words", "WidgetHost/Face",
     ],
     "WidgetHost/Schedule": ["OrvelPlatform/Base", "OrvelPlatform/Desktop"],
     "WidgetHost/State": ["OrvelPlatform/Base"],
+    "WidgetHost/Style": ["OrvelPlatform/Base", "OrvelPlatform/Drawing", "OrvelDesign", "OrvelDesign/Drawn"],
+    "WidgetHost/Gallery": [
+        "OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Desktop", "OrvelDesign", "WidgetHost/Style",
+        "WidgetHost/Words",
+    ],
+    "WidgetHost/Panel": [
+        "OrvelPlatform/Base", "OrvelPlatform/Desktop", "OrvelDesign", "OrvelDesign/Drawn", "WidgetHost/Style",
+        "WidgetHost/Words", "WidgetHost/Windows",
+    ],
+    "WidgetHost/Words": ["OrvelPlatform/Base", "OrvelCopy/Lookup", "WidgetHost/State"],
+    "WidgetHost/Desk": [
+        "OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Desktop", "OrvelDesign", "WidgetHost/Schedule",
+        "WidgetHost/State", "WidgetHost/Words", "WidgetHost/Face",
+    ],
+    "WidgetHost/Program": [
+        "OrvelPlatform/Base", "OrvelPlatform/Desktop", "OrvelDesign", "WidgetHost/State", "WidgetHost/Words",
+        "WidgetHost/Face", "WidgetHost/Desk", "WidgetHost/Controls", "WidgetHost/Gallery", "WidgetHost/Panel",
+        "WidgetHost/Tray", "WidgetHost/Style",
+    ],
+    "WidgetHost/Program/Main": [
+        "OrvelPlatform/Base", "OrvelPlatform/Desktop", "WidgetHost/State", "WidgetHost/Words", "WidgetHost/Face",
+        "WidgetHost/Desk", "WidgetHost/Controls", "WidgetHost/Windows", "WidgetHost/Gallery", "WidgetHost/Panel",
+        "WidgetHost/Tray", "WidgetHost/Program",
+    ],
     "WidgetHost/Face": ["OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Desktop", "WidgetHost/State"],
     "WidgetHost/Windows": [
         "OrvelPlatform/Base", "OrvelPlatform/Views", "OrvelPlatform/Drawing", "OrvelPlatform/Desktop", "OrvelDesign",
         "OrvelDesign/Drawn", "WidgetHost/State", "WidgetHost/Face",
     ],
+    "WidgetHost/Controls": ["OrvelPlatform/Base", "OrvelPlatform/Desktop", "WidgetHost/Schedule"],
+    "WidgetHost/Tray": ["OrvelPlatform/Base", "OrvelPlatform/Desktop", "OrvelDesign", "OrvelDesign/Drawn"],
 }
 
 # Headers of the system, and the folders that may see them; sources only where the folder's name ends in ".cpp".
@@ -52,8 +79,13 @@ SYSTEM = {
     r"(unicode/|absl/)": ["OrvelPlatform/Base"],
     r"simdjson": ["OrvelPlatform/Base"],
     r"(cairo|pango/|fontconfig/)": ["OrvelPlatform/Drawing"],
-    r"(gio/|glib)": ["OrvelPlatform/Desktop", "WidgetHost", "WidgetHost/Windows.cpp"],
-    r"(gtk|gdk|X11/|wayland)": ["WidgetHost.cpp", "WidgetHost/Windows.cpp"],
+    r"(gio/|glib)": [
+        "OrvelPlatform/Desktop", "WidgetHost", "WidgetHost/Tray", "WidgetHost/Windows.cpp", "WidgetHost/Program.cpp",
+    ],
+    r"(gtk|gdk|X11/|wayland)": [
+        "WidgetHost.cpp", "WidgetHost/Windows.cpp", "WidgetHost/Style.cpp", "WidgetHost/Gallery.cpp", "WidgetHost/Panel.cpp",
+        "WidgetHost/Program/Main.cpp",
+    ],
 }
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')

@@ -22,6 +22,7 @@ struct ScheduledWidget {
 /// What a widget shows.
 struct ShownWidget {
     std::shared_ptr<const HostPicture> picture {}; // the last good one; null: none came yet
+    std::optional<HostEnvironment> environment {}; // in which it was drawn; absent without one
     std::optional<Date> staleSince {}; // present: the extension has owed an answer for a minute or more, since then
 
     bool operator==(const ShownWidget&) const = default;

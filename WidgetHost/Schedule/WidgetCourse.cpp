@@ -41,22 +41,6 @@ Answer<T> answerOf(TaskOutcome<Answer<T>> outcome)
     return std::unexpected(RequestFault { RequestFault::Kind::unavailable, "The request broke off." });
 }
 
-template <typename T>
-std::optional<T> earlier(std::optional<T> one, std::optional<T> other)
-{
-    return one && other ? std::min(one, other) : one ? one : other;
-}
-
-}
-
-void NextWake::include(std::optional<Date> other)
-{
-    date = earlier(date, other);
-}
-
-void NextWake::include(std::optional<Clock::Uptime> other)
-{
-    uptime = earlier(uptime, other);
 }
 
 WidgetCourse::WidgetCourse(
@@ -135,6 +119,7 @@ void WidgetCourse::takePicture()
         return refusePicture(answer->error());
     m_shown.picture = std::make_shared<const HostPicture>(**std::move(answer));
     m_drawn = std::exchange(m_asked, std::nullopt);
+    m_shown.environment = m_drawn->environment;
     m_pictureAttempts.succeed();
 }
 

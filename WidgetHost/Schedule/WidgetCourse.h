@@ -6,19 +6,11 @@
 #include "OrvelPlatform/Base/Clock.h"
 #include "OrvelPlatform/Base/Task.h"
 #include "WidgetHost/Schedule/Attempts.h"
+#include "WidgetHost/Schedule/NextWake.h"
 #include "WidgetHost/Schedule/ScheduledWidget.h"
 #include "WidgetHost/Schedule/WidgetRequests.h"
 
 namespace orvel {
-
-/// When something falls due next: at an instant of the clock on the wall, or of uptime. Either may come first.
-struct NextWake {
-    std::optional<Date> date {};
-    std::optional<Clock::Uptime> uptime {};
-
-    void include(std::optional<Date> other);
-    void include(std::optional<Clock::Uptime> other);
-};
 
 /// One widget's way through its timelines: at most one timeline and one picture are asked for at a time. It does
 /// nothing by itself; `update` is to be called when an answer came and when something fell due, and when anything else

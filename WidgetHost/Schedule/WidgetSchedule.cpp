@@ -3,12 +3,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "OrvelPlatform/Base/Match.h"
-
 namespace orvel {
 
 WidgetSchedule::WidgetSchedule(Clock& clock, WidgetRequests& requests, Show show)
-    : m_clock(clock), m_requests(requests), m_show(std::move(show))
+    : m_clock(clock), m_requests(requests), m_show(std::move(show)), m_timer(clock, [this] { update(); })
 {
 }
 
@@ -57,31 +55,11 @@ void WidgetSchedule::update()
             placed.course->update();
     } while (m_hasAnswers);
     m_isUpdating = false;
-    setTimer();
+    m_timer.set(nextWake());
     tell();
 }
 
-void WidgetSchedule::setTimer()
-{
-    const auto due = nextDue();
-    if (due == m_due)
-        return;
-    m_due = due;
-    m_timer.reset();
-    if (!due)
-        return;
-    const auto wake = [this] {
-        m_due.reset();
-        update();
-    };
-    m_timer = std::visit(Match {
-                             [&](Date date) { return m_clock.at(date, wake); },
-                             [&](Clock::Uptime uptime) { return m_clock.after(uptime - m_clock.uptime(), wake); },
-                         },
-        *due);
-}
-
-std::optional<WidgetSchedule::Due> WidgetSchedule::nextDue() const
+NextWake WidgetSchedule::nextWake() const
 {
     NextWake next;
     for (const auto& [id, placed] : m_widgets) {
@@ -89,11 +67,7 @@ std::optional<WidgetSchedule::Due> WidgetSchedule::nextDue() const
         next.include(wake.date);
         next.include(wake.uptime);
     }
-    if (next.date && (!next.uptime || *next.date - m_clock.now() <= *next.uptime - m_clock.uptime()))
-        return *next.date;
-    if (next.uptime)
-        return *next.uptime;
-    return std::nullopt;
+    return next;
 }
 
 void WidgetSchedule::tell()

@@ -4,7 +4,6 @@
 #include <map>
 #include <memory>
 #include <string>
-#include <variant>
 #include <vector>
 
 #include "WidgetHost/Schedule/WidgetCourse.h"
@@ -43,12 +42,10 @@ private:
         std::unique_ptr<WidgetCourse> course;
         ShownWidget told;
     };
-    using Due = std::variant<Date, Clock::Uptime>;
 
     void place(const ScheduledWidget& widget);
     void update();
-    void setTimer();
-    std::optional<Due> nextDue() const;
+    NextWake nextWake() const;
     void tell();
 
     Clock& m_clock;
@@ -57,8 +54,7 @@ private:
     std::map<std::string, Placed> m_widgets;
     bool m_isUpdating = false;
     bool m_hasAnswers = false; // that came while it was updating
-    std::optional<Due> m_due; // what the timer is set to
-    std::unique_ptr<Clock::Timer> m_timer;
+    WakeTimer m_timer;
 };
 
 }

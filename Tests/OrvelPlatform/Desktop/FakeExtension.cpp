@@ -47,12 +47,22 @@ public:
                 .title = "Minutes",
                 .type = ExtensionIntent::Type::integer,
                 .isOptional = true } } };
+        const ExtensionIntent focus { .name = "FocusNow",
+            .title = "Focus",
+            .parameters = {
+                { .name = "value", .title = "Focus", .type = ExtensionIntent::Type::truth, .isOptional = false } } };
         return std::vector<ExtensionMember> { { .kind = "plain",
-            .role = ExtensionMember::Role::widget,
-            .displayName = environment.language.value_or("no language"),
-            .description = std::string(5000, 'x'),
-            .families = { "systemSmall" },
-            .intents = { intent } } };
+                                                  .role = ExtensionMember::Role::widget,
+                                                  .displayName = environment.language.value_or("no language"),
+                                                  .description = std::string(5000, 'x'),
+                                                  .families = { "systemSmall" },
+                                                  .intents = { intent } },
+            { .kind = "state",
+                .role = ExtensionMember::Role::toggle,
+                .displayName = "",
+                .description = "",
+                .families = {},
+                .intents = { focus } } };
     }
 
     Answer<ExtensionEntry> placeholder(std::string_view kind, const HostEnvironment&) override { return entry(kind); }

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <filesystem>
+
+struct _FcConfig;
+
+namespace orvel {
+
+/// Adds a folder's typefaces to a font configuration. A folder that is not there adds none.
+void addFonts(_FcConfig* configuration, const std::filesystem::path& folder);
+
+/// Adds a folder's typefaces to those that the process's toolkit writes with, beside the system's. To be called before
+/// the first text.
+void addFontsToProcess(const std::filesystem::path& folder);
+
+}
