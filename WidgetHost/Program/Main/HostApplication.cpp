@@ -96,6 +96,7 @@ WidgetWindowEvents HostApplication::windowEvents(const std::string& id)
 void HostApplication::add(const HostCall::Add& widget)
 {
     m_desk.add(widget.kind, widget.family, widget.look);
+    m_desk.save(); // whoever asked may list the widgets next
 }
 
 void HostApplication::raiseGallery(const std::string& activationToken)
