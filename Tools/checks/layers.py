@@ -82,7 +82,7 @@ SYSTEM = {
     r"(gio/|glib)": [
         "OrvelPlatform/Desktop", "WidgetHost", "WidgetHost/Tray", "WidgetHost/Windows.cpp", "WidgetHost/Program.cpp",
     ],
-    r"(gtk|gdk|X11/)": [
+    r"(gtk|gdk|X11/|wayland)": [
         "WidgetHost.cpp", "WidgetHost/Windows.cpp", "WidgetHost/Style.cpp", "WidgetHost/Gallery.cpp", "WidgetHost/Panel.cpp",
         "WidgetHost/Program/Main.cpp",
     ],

@@ -9,35 +9,60 @@
 namespace orvel {
 
 struct DesktopWindows::Listening {
-    explicit Listening(DesktopWindows& windows)
+    explicit Listening(DesktopWindows& itsWindows) : windows(itsWindows)
     {
         const auto display = Gdk::Display::get_default();
         const auto screen = Gdk::Screen::get_default();
-        // Several of these come for one change. Nothing is read before the last of them.
-        const auto changed = [this, &windows] {
-            later.disconnect();
-            later = Glib::signal_idle().connect([&windows] {
-                windows.refresh();
-                return false;
-            });
-        };
-        const auto changedMonitor = [changed](const Glib::RefPtr<Gdk::Monitor>&) { changed(); };
-        connections.push_back(display->signal_monitor_added().connect(changedMonitor));
-        connections.push_back(display->signal_monitor_removed().connect(changedMonitor));
-        connections.push_back(screen->signal_monitors_changed().connect(changed));
-        connections.push_back(screen->signal_size_changed().connect(changed));
+        const auto changed = [this](const Glib::RefPtr<Gdk::Monitor>&) { refreshSoon(); };
+        lasting.push_back(display->signal_monitor_added().connect(changed));
+        lasting.push_back(display->signal_monitor_removed().connect(changed));
+        lasting.push_back(screen->signal_monitors_changed().connect([this] { refreshSoon(); }));
+        lasting.push_back(screen->signal_size_changed().connect([this] { refreshSoon(); }));
+        listenToMonitors();
     }
     Listening(const Listening&) = delete;
     Listening& operator=(const Listening&) = delete;
     ~Listening()
     {
-        later.disconnect();
-        for (auto& connection : connections)
-            connection.disconnect();
+        soon.disconnect();
+        for (auto* connections : { &lasting, &ofMonitors })
+            disconnect(*connections);
     }
 
-    std::vector<sigc::connection> connections;
-    sigc::connection later;
+    /// Each monitor says for itself where it is.
+    void listenToMonitors()
+    {
+        disconnect(ofMonitors);
+        const auto display = Gdk::Display::get_default();
+        const auto changed = [this] { refreshSoon(); };
+        for (int index = 0; index < display->get_n_monitors(); ++index) {
+            const auto monitor = display->get_monitor(index);
+            ofMonitors.push_back(monitor->property_geometry().signal_changed().connect(changed));
+            ofMonitors.push_back(monitor->property_workarea().signal_changed().connect(changed));
+        }
+    }
+
+    /// Several changes come at once. Nothing is read before the last of them.
+    void refreshSoon()
+    {
+        soon.disconnect();
+        soon = Glib::signal_idle().connect([this] {
+            windows.refresh();
+            return false;
+        });
+    }
+
+    static void disconnect(std::vector<sigc::connection>& connections)
+    {
+        for (auto& connection : connections)
+            connection.disconnect();
+        connections.clear();
+    }
+
+    DesktopWindows& windows;
+    std::vector<sigc::connection> lasting;
+    std::vector<sigc::connection> ofMonitors;
+    sigc::connection soon;
 };
 
 DesktopWindows::DesktopWindows(WindowWordsFor words)
@@ -60,6 +85,7 @@ std::vector<PlacedCard> DesktopWindows::takenBeside(const PlacedWindow& window) 
 void DesktopWindows::refresh()
 {
     m_outputs = monitors();
+    m_listening->listenToMonitors();
     const auto members = m_members; // one may go when it is told
     for (auto* member : members) {
         if (std::ranges::find(m_members, member) != m_members.end())

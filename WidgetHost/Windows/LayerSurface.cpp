@@ -7,6 +7,9 @@
 
 #include <gtk-layer-shell.h>
 #include <gtkmm.h>
+#include <wayland-client.h>
+
+#include <gdk/gdkwayland.h>
 
 namespace orvel {
 
@@ -27,6 +30,11 @@ void move(Gtk::Window& window, Point corner)
 {
     gtk_layer_set_margin(window.gobj(), GTK_LAYER_SHELL_EDGE_LEFT, static_cast<int>(std::lround(corner.x)));
     gtk_layer_set_margin(window.gobj(), GTK_LAYER_SHELL_EDGE_TOP, static_cast<int>(std::lround(corner.y)));
+    // The toolkit would say so with its next frame; and a surface out of sight never gets one.
+    auto* const ours = gtk_widget_get_window(GTK_WIDGET(window.gobj()));
+    auto* const surface = ours ? gdk_wayland_window_get_wl_surface(ours) : nullptr;
+    if (surface) // a window that is not shown has none
+        wl_surface_commit(surface);
 }
 
 /// What follows the pointer: a picture that no pointer meets, above all windows.

@@ -100,10 +100,10 @@ void WidgetParts::show(const WidgetFace& face, const WindowGeometry& geometry)
             parts.add(list[index]);
     }
     parts.held.resize(list.size());
-    if (focused && !focusedAction()) {
-        const auto again = std::ranges::find(parts.held, focused, [](const auto& part) { return part.listed.action; });
-        (again == parts.held.end() ? parts.held.front() : *again).widget->grab_focus();
-    }
+    if (parts.focused())
+        return;
+    const auto again = std::ranges::find(parts.held, focused, [](const auto& part) { return part.listed.action; });
+    (again == parts.held.end() ? parts.held.front() : *again).widget->grab_focus();
 }
 
 void WidgetParts::moveFocus(bool isBackward)

@@ -267,11 +267,15 @@ void WindowContent::pointed(const PointerPlace& pointer)
         const bool isOnAction = m_face && actionAt(*m_face, m_geometry, pointer.onWindow);
         return m_toolkit.showHand(isOnAction);
     }
+    if (!pointer.isHeld) // it was let go where nobody heard of it
+        return m_press->isDrag ? released(pointer, m_eventTime) : m_press.reset();
     const auto from = m_press->grip.at.onWindow;
     if (!m_press->isDrag && m_toolkit.isDrag(from, pointer.onWindow)) {
         m_press->isDrag = true;
         m_surface->beginDrag(m_press->grip);
         repaintAll();
+        if (!m_surface->isPlaced())
+            return m_press.reset(); // somebody else has the pointer now
     }
     if (m_press->isDrag)
         m_surface->drag(pointer);
@@ -306,13 +310,15 @@ bool WindowContent::keyPressed(const KeyPress& press)
             moveBy(x * step, y * step);
         return isHeld;
     };
-    if (!std::exchange(m_isKeyboardUsed, true))
+    const bool wasSeen = std::exchange(m_isKeyboardUsed, true);
+    if (!wasSeen)
         repaintAll();
     switch (key) {
     case GDK_KEY_Tab:
     case GDK_KEY_KP_Tab:
     case GDK_KEY_ISO_Left_Tab:
-        m_parts->moveFocus(isShift);
+        if (wasSeen) // or it would go from where nobody saw it
+            m_parts->moveFocus(isShift);
         return true;
     case GDK_KEY_Return:
     case GDK_KEY_KP_Enter:

@@ -21,6 +21,7 @@ namespace orvel {
 struct PointerPlace {
     Point onWindow;
     Point onScreen; // means nothing where windows do not know where they are
+    bool isHeld = true; // the main button
 };
 
 /// How a drag began.

@@ -9,9 +9,11 @@ namespace orvel {
 
 namespace {
 
-PointerPlace placeOf(double x, double y, double xOnScreen, double yOnScreen)
+/// Where an event of the pointer's was.
+template <typename Event>
+PointerPlace placeOf(const Event& event)
 {
-    return { { x, y }, { xOnScreen, yOnScreen } };
+    return { { event.x, event.y }, { event.x_root, event.y_root }, (event.state & GDK_BUTTON1_MASK) != 0 };
 }
 
 const GdkEvent* anyEvent(const GdkEventButton* event)
@@ -38,7 +40,7 @@ struct WindowToolkit::Parts {
         if (gdk_event_triggers_context_menu(anyEvent(event)))
             handlers.menuWanted(anyEvent(event));
         else if (event->button == GDK_BUTTON_PRIMARY)
-            handlers.pressed({ placeOf(event->x, event->y, event->x_root, event->y_root), event->button, event->time });
+            handlers.pressed({ placeOf(*event), event->button, event->time });
         return true;
     }
 
@@ -85,14 +87,14 @@ void WindowToolkit::listen(WindowHandlers handlers)
         [&parts](GdkEventButton* event) { return parts.buttonPressed(event); }, before);
     window.signal_motion_notify_event().connect(
         [&told](GdkEventMotion* event) {
-            told.pointed(placeOf(event->x, event->y, event->x_root, event->y_root));
+            told.pointed(placeOf(*event));
             return true;
         },
         before);
     window.signal_button_release_event().connect(
         [&told](GdkEventButton* event) {
             if (event->button == GDK_BUTTON_PRIMARY)
-                told.released(placeOf(event->x, event->y, event->x_root, event->y_root), event->time);
+                told.released(placeOf(*event), event->time);
             return true;
         },
         before);

@@ -1,6 +1,6 @@
-/// Widgets in windows, for tests and for the eye: each argument is one, as "status:systemMedium:dusk", with "@X,Y" at
-/// its end where it has a place on the first output. Says on standard output what happens at them, and does what the
-/// lines of standard input say: "notice SENTENCE", "again", "remove".
+/// Widgets in windows, for tests and for the eye. Each argument is one, such as "status:systemMedium:dusk", with "@X,Y"
+/// at its end where it has a place on the first output. It says on standard output what happens at them, and takes
+/// lines from standard input: "notice SENTENCE", "again" for new pictures. It ends with its input.
 #include <charconv>
 #include <fmt/format.h>
 #include <iostream>
