@@ -15,6 +15,7 @@ namespace orvel::tests {
 /// a declaration that it does not understand only with a message that nobody sees.
 inline void expectSoundStyles(const std::function<std::string(const StyleSettings&)>& styleSheet)
 {
+    Gtk::Main::init_gtkmm_internals(); // no display is needed
     for (unsigned settings = 0; settings < 16; ++settings) {
         const auto is = [&](unsigned bit) { return (settings & bit) != 0; };
         const auto text = styleSheet({
