@@ -46,6 +46,7 @@ HostApplication::HostApplication(EventLoop& loop, std::function<void()> quit)
         m_desk.clockWasSet();
         m_controls.clockWasSet();
     }))
+    , m_zone("/etc/localtime", [this] { m_desk.homelandChanged(); })
     , m_settings(loop, [this](const DesktopAppearance& appearance) { m_desk.appearanceChanged(appearance); })
 {
     auto center = WidgetCenterListener::listen(loop,
