@@ -54,8 +54,8 @@ class Screen:
         self.file.parent.mkdir(parents=True)
         self.file.write_text(json.dumps({"state": state, "version": 1}))
 
-    def start(self):
-        self.host = self.desktop.start(PROGRAMS / "orvel-widget-host", "--background")
+    def start(self, *options):
+        self.host = self.desktop.start(PROGRAMS / "orvel-widget-host", *(options or ["--background"]))
 
     def stop(self):
         self.host.send_signal(signal.SIGTERM)
@@ -189,6 +189,18 @@ class Reading(unittest.TestCase):
             self.do(screen, named["Breathe now"]["actions"][0], "push button", "Breathe now")
             self.assertTrue(wait_for(lambda: screen.neighbours.links, SLOW))
             self.assertEqual(screen.neighbours.links, ["orvel://breathe?style=calm&minutes=3"])
+
+    def test_adding_from_the_gallery(self):
+        with Screen(environment={"NO_AT_BRIDGE": "0"}) as screen:
+            self.assertEqual(screen.ask().returncode, 0)
+            found = lambda name: [accessible for tree in self.tree(screen) or [] for accessible in self.showing(tree)
+                                  if accessible["name"] == name]
+            self.assertTrue(wait_for(lambda: found("Add Orvel, Medium"), SLOW), "a second start raises the gallery")
+            self.do(screen, found("Add Orvel, Medium")[0]["actions"][0], "push button", "Add Orvel, Medium")
+            self.assertTrue(wait_for(lambda: screen.file.exists(), SLOW))
+            self.assertEqual([(widget["kind"], widget["family"]) for widget in screen.state()["widgets"]],
+                             [(STATUS, "systemMedium")])
+            self.assertTrue(wait_for(lambda: found("Breathe now") or found("3 breaths"), SLOW), "it is on the desktop")
 
     def tree(self, screen):
         done = screen.desktop.run("/usr/bin/python3", HERE / "accessibles.py", "orvel-widget-host", capture_output=True)

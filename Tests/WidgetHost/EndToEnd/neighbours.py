@@ -39,7 +39,8 @@ class Neighbours:
         ready = threading.Event()
         self.thread = threading.Thread(target=self.serve, args=[flags, ready], daemon=True)
         self.thread.start()
-        ready.wait()
+        if not ready.wait(10):
+            raise RuntimeError("the neighbours do not come to the bus")
 
     def serve(self, flags, ready):
         self.context.push_thread_default()

@@ -46,6 +46,7 @@ HostApplication::HostApplication(EventLoop& loop, std::function<void()> quit)
         m_desk.clockWasSet();
         m_controls.clockWasSet();
     }))
+    , m_zone("/etc/localtime", [this] { m_desk.homelandChanged(); })
     , m_settings(loop, [this](const DesktopAppearance& appearance) { m_desk.appearanceChanged(appearance); })
 {
     auto center = WidgetCenterListener::listen(loop,
@@ -96,6 +97,7 @@ WidgetWindowEvents HostApplication::windowEvents(const std::string& id)
 void HostApplication::add(const HostCall::Add& widget)
 {
     m_desk.add(widget.kind, widget.family, widget.look);
+    m_desk.save(); // whoever asked may list the widgets next
 }
 
 void HostApplication::raiseGallery(const std::string& activationToken)

@@ -14,6 +14,7 @@
 #include "WidgetHost/Desk/BusServices.h"
 #include "WidgetHost/Desk/Desk.h"
 #include "WidgetHost/Gallery/Gallery.h"
+#include "WidgetHost/Program/FileWatch.h"
 #include "WidgetHost/Program/HostCall.h"
 #include "WidgetHost/Program/Main/ControlSurfaces.h"
 #include "WidgetHost/Windows/DesktopWindows.h"
@@ -62,6 +63,7 @@ private:
 
     std::optional<WidgetCenterListener> m_center;
     std::unique_ptr<Clock::Timer> m_whenSet;
+    FileWatch m_zone;
     DesktopSettings m_settings; // last: it begins to tell
 };
 
