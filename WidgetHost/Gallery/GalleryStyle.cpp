@@ -49,7 +49,7 @@ void addPreviews(StyleSheet& sheet)
                     "color: {}; {}",
             Space::macControlRegular, Space::s3, Radius::full, sheet.color(Palette::selectionFill),
             sheet.color(Palette::accentText), sheet.hoverTransition()));
-    sheet.rule("button.preview:hover .add,button.preview:focus .add",
+    sheet.rule("button.preview:hover .add",
         fmt::format(
             "background-color: {}; color: {};", sheet.color(Palette::accentFill), sheet.color(Palette::accentOn)));
 }
