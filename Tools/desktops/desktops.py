@@ -29,7 +29,7 @@ BUS = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration
 </busconfig>
 """
 SWAY = """
-output HEADLESS-1 resolution {width}x{height} scale {scale} bg #35506b solid_color
+output HEADLESS-1 resolution {width}x{height} scale {scale} bg {background}
 xwayland disable
 default_border none
 seat * hide_cursor 1
@@ -134,9 +134,11 @@ class Desktop(contextlib.AbstractContextManager):
             self.start("picom", "--backend", "xrender", "--config", os.devnull, stdout=subprocess.DEVNULL,
                        stderr=subprocess.DEVNULL)
 
-    def start_sway(self, width=1280, height=900, scale=1):
-        """A headless compositor with the layer shell."""
-        (self.folder / "sway.conf").write_text(SWAY.format(width=width, height=height, scale=scale))
+    def start_sway(self, width=1280, height=900, scale=1, wallpaper=None):
+        """A headless compositor with the layer shell. Its size is in pixels."""
+        background = f"{wallpaper} fill" if wallpaper else "#35506b solid_color"
+        (self.folder / "sway.conf").write_text(
+            SWAY.format(width=width, height=height, scale=scale, background=background))
         self.own()
         self.environment |= {"WLR_BACKENDS": "headless", "WLR_RENDERER": "pixman", "WLR_LIBINPUT_NO_DEVICES": "1",
                              "XDG_CURRENT_DESKTOP": "sway", "GDK_BACKEND": "wayland"}
