@@ -17,7 +17,7 @@ constexpr const char* about = "Shows Orvel's widgets on the desktop. One runs fo
 /// The options as they were typed.
 struct Typed {
     std::string kind, size, look;
-    bool isInBackground = false, isGallery = false, isList = false, isQuit = false;
+    bool isInBackground = false, isGallery = false, isControls = false, isList = false, isQuit = false;
 
     void addTo(CLI::App& app)
     {
@@ -28,9 +28,10 @@ struct Typed {
             ->type_name("LOOK");
         auto* background = app.add_flag("--background", isInBackground, "Show no gallery, as for a start at login");
         auto* gallery = app.add_flag("--gallery", isGallery, "Show the gallery");
+        auto* controls = app.add_flag("--controls", isControls, "Show the panel of controls");
         auto* list = app.add_flag("--list", isList, "List the widgets on the desktop, and those that can be added");
         auto* quit = app.add_flag("--quit", isQuit, "End the one that runs");
-        const std::array tasks { add, background, gallery, list, quit };
+        const std::array tasks { add, background, gallery, controls, list, quit };
         for (auto* task : tasks) {
             for (auto* other : tasks) {
                 if (task != other)
@@ -67,6 +68,8 @@ std::expected<HostCall, CallEnd> understood(const Typed& typed, bool isAdding)
         return addition(typed);
     if (typed.isGallery)
         return HostCall { HostCall::ShowGallery {} };
+    if (typed.isControls)
+        return HostCall { HostCall::ShowControls {} };
     if (typed.isList)
         return HostCall { HostCall::List {} };
     if (typed.isQuit)

@@ -14,6 +14,7 @@ struct HostCall {
         bool isInBackground; // never the gallery
     };
     struct ShowGallery { };
+    struct ShowControls { };
     struct List { };
     struct Add {
         std::string kind;
@@ -22,7 +23,7 @@ struct HostCall {
     };
     struct Quit { };
 
-    using Task = std::variant<Show, ShowGallery, List, Add, Quit>;
+    using Task = std::variant<Show, ShowGallery, ShowControls, List, Add, Quit>;
     Task task;
 };
 

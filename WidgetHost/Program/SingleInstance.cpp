@@ -10,7 +10,8 @@ namespace {
 
 using Wishes = SingleInstance::Wishes;
 
-constexpr const char* galleryAction = "gallery"; // takes an activation token
+constexpr const char* galleryAction = "gallery"; // takes an activation token, and so does the next
+constexpr const char* controlsAction = "controls";
 constexpr const char* addAction = "add"; // takes a kind, a family and a look
 constexpr const char* quitAction = "quit";
 constexpr std::chrono::seconds quitPatience { 5 };
@@ -30,6 +31,12 @@ void galleryAsked(GSimpleAction*, GVariant* token, gpointer data)
 {
     if (const auto& gallery = wishesOf(data).gallery)
         gallery(g_variant_get_string(token, nullptr));
+}
+
+void controlsAsked(GSimpleAction*, GVariant* token, gpointer data)
+{
+    if (const auto& controls = wishesOf(data).controls)
+        controls(g_variant_get_string(token, nullptr));
 }
 
 void addAsked(GSimpleAction*, GVariant* widget, gpointer data)
@@ -79,6 +86,7 @@ SingleInstance::SingleInstance(_GApplication* application)
 {
     g_signal_connect(application, "activate", G_CALLBACK(activated), m_wishes.get());
     addAction_(application, galleryAction, "s", galleryAsked, m_wishes.get());
+    addAction_(application, controlsAction, "s", controlsAsked, m_wishes.get());
     addAction_(application, addAction, "(sss)", addAsked, m_wishes.get());
     addAction_(application, quitAction, nullptr, quitAsked, m_wishes.get());
 }
@@ -115,8 +123,18 @@ void SingleInstance::flush() const
 
 void SingleInstance::askForGallery(const std::string& activationToken) const
 {
+    askToShow(galleryAction, activationToken);
+}
+
+void SingleInstance::askForControls(const std::string& activationToken) const
+{
+    askToShow(controlsAction, activationToken);
+}
+
+void SingleInstance::askToShow(const char* action, const std::string& activationToken) const
+{
     g_action_group_activate_action(
-        G_ACTION_GROUP(m_application.get()), galleryAction, g_variant_new_string(activationToken.c_str()));
+        G_ACTION_GROUP(m_application.get()), action, g_variant_new_string(activationToken.c_str()));
     flush();
 }
 

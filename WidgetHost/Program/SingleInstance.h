@@ -22,6 +22,7 @@ public:
     /// What others ask the one that runs for, on the program's loop.
     struct Wishes {
         std::function<void(std::string activationToken)> gallery;
+        std::function<void(std::string activationToken)> controls;
         std::function<void(HostCall::Add)> add;
         std::function<void()> quit;
     };
@@ -40,6 +41,7 @@ public:
 
     /// Elsewhere: asks it. They return when the bus has it; `quit` when the other is gone, or does not go.
     void askForGallery(const std::string& activationToken) const;
+    void askForControls(const std::string& activationToken) const;
     void askToAdd(const HostCall::Add& widget) const;
     [[nodiscard]] std::expected<void, Fault> askToQuit(EventLoop& loop) const;
 
@@ -48,6 +50,7 @@ private:
         void operator()(_GApplication* application) const;
     };
     explicit SingleInstance(_GApplication* application);
+    void askToShow(const char* action, const std::string& activationToken) const;
     void flush() const;
 
     std::unique_ptr<_GApplication, Release> m_application;

@@ -29,6 +29,7 @@ TEST(HostCall, understandsWhatIsAskedFor)
     EXPECT_FALSE(std::get<HostCall::Show>(called({})->task).isInBackground);
     EXPECT_TRUE(std::get<HostCall::Show>(called({ "--background" })->task).isInBackground);
     EXPECT_TRUE(std::holds_alternative<HostCall::ShowGallery>(called({ "--gallery" })->task));
+    EXPECT_TRUE(std::holds_alternative<HostCall::ShowControls>(called({ "--controls" })->task));
     EXPECT_TRUE(std::holds_alternative<HostCall::List>(called({ "--list" })->task));
     EXPECT_TRUE(std::holds_alternative<HostCall::Quit>(called({ "--quit" })->task));
 

@@ -35,6 +35,9 @@ public:
     /// Where the controls are from now on; the first time, the tray gets its item.
     void show(const Surroundings& around);
 
+    /// Brings the panel into sight, with the token of what asked for it.
+    void raisePanel(const std::string& activationToken);
+
     void reload(const std::vector<std::string>& kinds) { m_center.reload(kinds); }
     void clockWasSet() { m_center.clockWasSet(); }
 
@@ -44,7 +47,6 @@ public:
 private:
     void update();
     void placeTray();
-    void raisePanel(const std::string& activationToken);
     void use(const std::string& kind, std::optional<bool> wanted, std::optional<std::string> activationToken);
     void useFailed(const RequestFault& fault);
     PanelEvents panelEvents();

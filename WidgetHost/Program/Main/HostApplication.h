@@ -36,6 +36,7 @@ public:
 
     void add(const HostCall::Add& widget);
     void raiseGallery(const std::string& activationToken = {});
+    void raiseControls(const std::string& activationToken) { m_controls.raisePanel(activationToken); }
 
 private:
     DeskListener listener();

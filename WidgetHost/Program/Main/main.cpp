@@ -76,6 +76,8 @@ Exit askTheOther(const SingleInstance& instance, const HostCall::Task& task)
 {
     if (const auto* widget = std::get_if<HostCall::Add>(&task))
         instance.askToAdd(*widget);
+    else if (std::holds_alternative<HostCall::ShowControls>(task))
+        instance.askForControls(activationToken());
     else if (const auto* show = std::get_if<HostCall::Show>(&task); !show || !show->isInBackground)
         instance.askForGallery(activationToken());
     return Exit::done;
@@ -90,6 +92,7 @@ void begin(HostApplication& host, const HostCall::Task& task)
                    },
                    [&](const HostCall::Add& widget) { host.add(widget); },
                    [&](HostCall::ShowGallery) { host.raiseGallery(activationToken()); },
+                   [&](HostCall::ShowControls) { host.raiseControls(activationToken()); },
                    [](HostCall::List) {},
                    [](HostCall::Quit) {},
                },
@@ -118,6 +121,7 @@ Exit run(EventLoop& loop, SingleInstance& instance, const HostCall::Task& task)
     if (const auto warning = host.desk().warning())
         fail(*warning);
     instance.listen({ .gallery = [&](const std::string& token) { host.raiseGallery(token); },
+        .controls = [&](const std::string& token) { host.raiseControls(token); },
         .add = [&](const HostCall::Add& widget) { host.add(widget); },
         .quit = end });
     const auto terminated = loop.onSignal(SIGTERM, end);
