@@ -30,6 +30,11 @@ public:
         m_window.set_skip_taskbar_hint(true);
         m_window.set_skip_pager_hint(true);
         m_window.set_focus_on_map(false);
+        // Some window managers hold such a window above the others of its group, which all of a program's are.
+        m_window.signal_realize().connect([this] {
+            const auto own = m_window.get_window();
+            own->set_group(own);
+        });
     }
 
     bool isPlaced() const override { return true; }

@@ -149,6 +149,21 @@ class Widgets(unittest.TestCase):
                 self.assertEqual(screen.neighbours.links, [])
                 screen.neighbours.end_application(application)
 
+    def test_lie_below_the_gallery(self):
+        with Screen() as screen:
+            screen.stop()
+            middle = {"output": "screen", "x": 450, "y": 300}
+            screen.file.parent.mkdir(parents=True, exist_ok=True)
+            screen.file.write_text(json.dumps({"version": 1, "state": {"widgets": [
+                {"id": "1", "kind": STATUS, "family": "systemMedium", "place": middle}]}}))
+            place = middle["x"] + 40, middle["y"] + 40, 280, 90  # within the card
+            empty = screen.settled(*place)
+            screen.start()
+            self.assertTrue(screen.changed(empty, *place))
+            shown = screen.settled(*place)
+            self.assertEqual(screen.ask("--gallery").returncode, 0)
+            self.assertTrue(screen.changed(shown, *place), "the gallery covers it")
+
     def test_keep_their_places(self):
         with Screen(("systemSmall", BREATHE)) as screen:
             place = GAP, GAP, 170, 170
