@@ -135,7 +135,7 @@ def show_host(programs):
     """Prints the figures of the desktop host; true when all that is required is met. Programs: OrvelWidgets.appex."""
     taken = resting(programs)
     ours, bar = taken["host"], taken["bar"]
-    shown = 1  # entries a minute, of all widgets at the same second
+    shown = sum(kind == STATUS for _, kind in FOUR)  # entries a minute: the breathe widget stays as it is
     rows = [ratio_row("processor time a minute", "ms", ours["processor time"], bar["processor time"], *CPU_RATIO),
             ratio_row("resident memory", "MiB", ours["memory"], bar["memory"], *MEMORY_RATIO)]
     table(f"The desktop host with four widgets, beside a bar ({REST} s of a running Focus)", [

@@ -85,7 +85,8 @@ private:
         std::string large;
         bool operator==(const Icon&) const = default;
     };
-    static Icon icon(const TrayContent& content);
+    static Icon drawnIcon(const TrayContent& content);
+    const Icon& icon() const;
 
     void enrol();
     void receive(MethodCall call);
@@ -96,7 +97,7 @@ private:
     BusConnection m_connection;
     TrayContent m_content;
     TrayEvents m_events;
-    Icon m_icon;
+    mutable std::optional<Icon> m_icon; // drawn when a tray asks for it: on most desktops none does
     TrayEvents::Token m_token; // for the next thing that a person does
     std::string m_service; // under which the item is registered
     TrayMenu m_menu;
@@ -109,7 +110,6 @@ Tray::Item::Item(BusConnection connection, TrayContent content, TrayEvents event
     : m_connection(std::move(connection))
     , m_content(std::move(content))
     , m_events(std::move(events))
-    , m_icon(icon(m_content))
     , m_service(fmt::format("{}-{}-1", TrayName::item, ::getpid()))
     , m_menu(m_content, [this](const std::string& id) {
         if (m_events.chosen)
@@ -124,10 +124,17 @@ Tray::Item::~Item()
         g_bus_unwatch_name(m_watch);
 }
 
-Tray::Item::Icon Tray::Item::icon(const TrayContent& content)
+Tray::Item::Icon Tray::Item::drawnIcon(const TrayContent& content)
 {
     const auto image = MenuBarOrbGlyph::image(content.glyph);
     return { trayPixels(image.bitmaps[0], content.foreground), trayPixels(image.bitmaps[1], content.foreground) };
+}
+
+const Tray::Item::Icon& Tray::Item::icon() const
+{
+    if (!m_icon)
+        m_icon = drawnIcon(m_content);
+    return *m_icon;
 }
 
 std::expected<void, Fault> Tray::Item::serve()
@@ -173,7 +180,8 @@ void Tray::Item::show(const TrayContent& content)
     if (content == before)
         return;
     if (content.glyph != before.glyph || content.foreground != before.foreground) {
-        if (auto drawn = icon(content); std::exchange(m_icon, drawn) != drawn)
+        const auto asked = std::exchange(m_icon, std::nullopt); // who never asked has nothing that grew old
+        if (asked && *asked != icon())
             m_object->emit("NewIcon");
     }
     if (content.title != before.title)
@@ -220,7 +228,7 @@ VariantHandle Tray::Item::property(std::string_view name) const
             return toolTip(m_content);
         if (name != "IconPixmap")
             return constantProperty(name);
-        _GVariant* both[] = { pixmap(smallSide, m_icon.small), pixmap(2 * smallSide, m_icon.large) };
+        _GVariant* both[] = { pixmap(smallSide, icon().small), pixmap(2 * smallSide, icon().large) };
         return g_variant_new_array(nullptr, both, std::size(both));
     };
     return VariantHandle(g_variant_ref_sink(value()));

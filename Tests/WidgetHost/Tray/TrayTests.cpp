@@ -236,6 +236,10 @@ TEST_F(TrayOnTheBus, tellsOfWhatDiffersOnly)
     EXPECT_EQ(FakeTray::printed(desktop.property("ItemIsMenu")), "false");
     tray.show(content);
     EXPECT_THAT(desktop.news(), IsEmpty());
+    content.glyph = MenuBarOrb::Focus { 0.25 };
+    tray.show(content);
+    EXPECT_THAT(desktop.news(), IsEmpty()) << "nobody has asked for an icon that could be old";
+    EXPECT_TRUE(desktop.property("IconPixmap"));
     content.glyph = MenuBarOrb::Focus { 1.5 };
     tray.show(content);
     EXPECT_THAT(desktop.news(), ElementsAre("NewIcon()"));
