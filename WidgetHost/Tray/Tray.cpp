@@ -172,6 +172,8 @@ void Tray::Item::enrol()
     g_dbus_connection_call(m_connection.get(), TrayName::watcher, TrayPath::watcher, TrayName::watcher,
         "RegisterStatusNotifierItem", g_variant_new("(s)", m_service.c_str()), nullptr, G_DBUS_CALL_FLAGS_NO_AUTO_START,
         -1, nullptr, nullptr, nullptr);
+    if (m_events.trayCame)
+        m_events.trayCame();
 }
 
 void Tray::Item::show(const TrayContent& content)

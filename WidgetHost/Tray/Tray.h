@@ -19,6 +19,7 @@ struct TrayEvents {
     std::function<void(int x, int y, Token activationToken)> activated; // clicked, at this place of the screen
     std::function<void(int x, int y, Token activationToken)> menuAsked; // by a tray that shows no menus itself
     std::function<void(const std::string& id, Token activationToken)> chosen; // a line of the menu
+    std::function<void()> trayCame {}; // a tray appeared that the item can be seen in
 };
 
 /// The host's item in the desktop's tray: the menu bar's glyph, a tool tip and a menu. It is registered whenever a tray

@@ -35,12 +35,20 @@ void ControlSurfaces::show(const Surroundings& around)
     if (m_around == around)
         return;
     m_around = around;
-    auto environment = hostEnvironment(around, {}, ChosenLook::automatic, 1);
-    environment.family.reset();
-    m_center.setEnvironment(environment);
     if (!m_tray)
         placeTray();
+    askForValues();
     update();
+}
+
+void ControlSurfaces::askForValues()
+{
+    m_areValuesWanted = m_areValuesWanted || m_panel || isInTray();
+    if (!m_areValuesWanted || !m_around)
+        return;
+    auto environment = hostEnvironment(*m_around, {}, ChosenLook::automatic, 1);
+    environment.family.reset();
+    m_center.setEnvironment(environment);
 }
 
 /// A desktop without a bus has no tray either.
@@ -60,6 +68,7 @@ void ControlSurfaces::placeTray()
                     else if (const auto kind = controlOfLine(id))
                         m_center.use(*kind, std::move(given));
                 },
+            .trayCame = [this] { askForValues(); },
         });
     if (tray)
         m_tray.emplace(*std::move(tray));
@@ -81,6 +90,7 @@ void ControlSurfaces::raisePanel(const std::string& activationToken)
     m_panelEnd.reset();
     if (!m_panel)
         m_panel = std::make_unique<Panel>(panelEvents());
+    askForValues();
     update();
     m_panel->raise(activationToken);
 }

@@ -46,6 +46,7 @@ public:
 
 private:
     void update();
+    void askForValues();
     void placeTray();
     void use(const std::string& kind, std::optional<bool> wanted, std::optional<std::string> activationToken);
     void useFailed(const RequestFault& fault);
@@ -56,6 +57,7 @@ private:
     Events m_events;
     BusControlRequests m_requests;
     std::optional<Surroundings> m_around;
+    bool m_areValuesWanted = false; // from the first tray or panel on; widgets alone need none
     std::optional<std::string> m_trouble;
     std::unique_ptr<Clock::Timer> m_troubleEnd;
     std::unique_ptr<Panel> m_panel; // while it is in sight
