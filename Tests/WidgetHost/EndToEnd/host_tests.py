@@ -217,6 +217,34 @@ class Reading(unittest.TestCase):
                              [(STATUS, "systemMedium")])
             self.assertTrue(wait_for(lambda: found("Breathe now") or found("3 breaths"), SLOW), "it is on the desktop")
 
+    def test_the_controls(self):
+        with Screen(environment={"NO_AT_BRIDGE": "0"}, state="next") as screen:
+            found = lambda role, name: [accessible for tree in self.tree(screen) or [] for accessible in self.showing(tree)
+                                        if (accessible["role"], accessible["name"]) == (role, name)]
+
+            def use(role, name):
+                """As a screen reader does, whether or not the panel closed after the last time."""
+                if not found(role, name):
+                    self.assertEqual(screen.ask("--controls").returncode, 0)
+                self.assertTrue(wait_for(lambda: found(role, name), SLOW), name)
+                self.do(screen, found(role, name)[0]["actions"][0], role, name)
+
+            use("push button", "Breathe now")
+            self.assertTrue(wait_for(lambda: screen.neighbours.links, SLOW))
+            use("toggle button", "Focus now")
+            self.assertTrue(wait_for(lambda: len(screen.neighbours.links) > 1, SLOW))
+            self.assertEqual(screen.neighbours.links, ["orvel://breathe", "orvel://focus"])
+            with self.subTest("the application runs, and ends the Focus"):
+                screen.desktop.write_snapshot("--state", "focus")
+                screen.neighbours.reload("ReloadControls")
+                application = screen.neighbours.start_application()
+                time.sleep(1)
+                use("toggle button", "Focus now")
+                self.assertTrue(wait_for(lambda: screen.neighbours.performed, SLOW))
+                self.assertEqual(screen.neighbours.performed[0][:2], ("FocusNow", {"value": False}))
+                self.assertEqual(len(screen.neighbours.links), 2)
+                screen.neighbours.end_application(application)
+
     def tree(self, screen):
         done = screen.desktop.run("/usr/bin/python3", HERE / "accessibles.py", "orvel-widget-host", capture_output=True)
         return done.returncode == 0 and [program for program in json.loads(done.stdout) if program["children"]]
