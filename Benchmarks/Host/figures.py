@@ -4,6 +4,7 @@ import json
 import os
 import pathlib
 import statistics
+import subprocess
 import sys
 import time
 
@@ -33,14 +34,16 @@ def place_widgets(desktop, widgets):
     desktop.own()
 
 
-def tasks(process, name, field):
-    """A number of each of a process's threads, by their identifiers."""
-    numbers = {}
-    for task in pathlib.Path(f"/proc/{process.pid}/task").iterdir():
-        for line in (task / name).read_text().splitlines():
-            if line.startswith(field):
-                numbers[task.name] = int(line.split()[1])
-    return numbers
+def number(folder, field):
+    """What the system says of a process or a thread under this name."""
+    lines = (folder / "status").read_text().splitlines()
+    return next(int(line.split()[1]) for line in lines if line.startswith(field + ":"))
+
+
+def switches(process):
+    """How often each of a process's threads went to sleep, by their identifiers."""
+    threads = pathlib.Path(f"/proc/{process.pid}/task").iterdir()
+    return {thread.name: number(thread, "voluntary_ctxt_switches") for thread in threads}
 
 
 def processor_time(process):
@@ -49,12 +52,7 @@ def processor_time(process):
 
 
 def resident(process):
-    return tasks_of_process(process)["VmRSS:"] / 1024
-
-
-def tasks_of_process(process):
-    lines = pathlib.Path(f"/proc/{process.pid}/status").read_text().splitlines()
-    return {line.split()[0]: int(line.split()[1]) for line in lines if line.startswith("VmRSS:")}
+    return number(pathlib.Path(f"/proc/{process.pid}"), "VmRSS") / 1024  # MiB
 
 
 class Rest:
@@ -63,20 +61,18 @@ class Rest:
     def __init__(self, process):
         self.process = process
         self.processor = processor_time(process)
-        self.switches = tasks(process, "status", "voluntary_ctxt_switches")
+        self.switches = self.seen = switches(process)
         self.bursts = 0
-        self.seen = dict(self.switches)
 
     def look(self):
         """Called often: activity since the last look is one wake-up, however many threads it ran through."""
-        now = tasks(self.process, "status", "voluntary_ctxt_switches")
+        now = switches(self.process)
         self.bursts += now != self.seen
         self.seen = now
 
     def a_minute(self, seconds):
-        now = self.seen
-        switches = sum(count - self.switches.get(task, 0) for task, count in now.items())
-        return {"wake-ups": self.bursts * 60 / seconds, "context switches": switches * 60 / seconds,
+        slept = sum(count - self.switches.get(thread, 0) for thread, count in self.seen.items())
+        return {"wake-ups": self.bursts * 60 / seconds, "context switches": slept * 60 / seconds,
                 "processor time": (processor_time(self.process) - self.processor) * 60 / seconds}
 
 
@@ -86,7 +82,7 @@ def resting(programs):
         desktop.write_snapshot("--state", "focus")
         place_widgets(desktop, FOUR)
         desktop.start_sway()
-        quiet = {"stdout": -3, "stderr": -3}
+        quiet = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
         pair = {"bar": desktop.start("waybar", **quiet),
                 "host": desktop.start(desktop.programs / "orvel-widget-host", "--background", **quiet)}
         time.sleep(SETTLING)
