@@ -2,6 +2,7 @@
 
 #include <array>
 #include <filesystem>
+#include <string_view>
 #include <utility>
 
 #include "OrvelPlatform/Drawing/Handles.h"
@@ -25,14 +26,14 @@ class FontMaps {
 public:
     FontMaps(std::filesystem::path folder, FontScope scope) : m_folder(std::move(folder)), m_scope(scope) { }
 
-    /// A context for shaping. Lives as long as this.
-    _PangoContext* context(FontSupply supply, LayoutDirection direction);
+    /// A context for shaping paragraphs of one direction and language (BCP 47; empty: not known). A later change of a
+    /// context undoes its layouts, so that each paragraph has its own.
+    Handle<_PangoContext> context(FontSupply supply, LayoutDirection direction, std::string_view language);
 
 private:
     struct Set {
         Handle<_FcConfig> configuration;
         Handle<_PangoFontMap> map;
-        std::array<Handle<_PangoContext>, 2> contexts; // one for each direction: a context's change undoes its layouts
     };
 
     Set made(FontSupply supply) const;

@@ -50,18 +50,6 @@ std::string cleaned(std::string_view text)
     return line;
 }
 
-/// The name under which typefaces say that they are for a language. Of Chinese they know places and no scripts.
-PangoLanguage* pangoLanguage(std::string_view tag)
-{
-    const auto plain = tag.substr(0, tag.find("-u-"));
-    const auto has = [&](std::string_view part) { return plain.find(part) != std::string_view::npos; };
-    if (plain.starts_with("zh") && has("Hant") && !has("HK") && !has("MO"))
-        return pango_language_from_string("zh-tw");
-    if (plain.starts_with("zh") && (has("Hans") || plain == "zh"))
-        return pango_language_from_string("zh-cn");
-    return pango_language_from_string(std::string(plain).c_str());
-}
-
 void insert(PangoAttrList* list, PangoAttribute* attribute, std::size_t begin, std::size_t end)
 {
     attribute->start_index = static_cast<guint>(begin);
@@ -86,8 +74,6 @@ std::unique_ptr<PangoAttrList, Release> attributes(const TextBlock& block)
         style(list.get(), run.style, begin, begin + run.text.size());
         begin += run.text.size();
     }
-    if (!block.language.empty())
-        insert(list.get(), pango_attr_language_new(pangoLanguage(block.language)), 0, begin);
     return list;
 }
 

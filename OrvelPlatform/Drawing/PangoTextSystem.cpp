@@ -156,24 +156,24 @@ PangoTextSystem::Kept& PangoTextSystem::keptOf(const TextBlock& block)
 PangoTextSystem::Shown PangoTextSystem::shown(const TextBlock& block, double width)
 {
     PangoParagraph paragraph(block);
-    PangoContext* context = nullptr;
+    Handle<PangoContext> context;
     Handle<PangoLayout> layout;
     for (const auto supply : { FontSupply::rounded, FontSupply::own, FontSupply::all }) {
         if (supply < leastSupply(block))
             continue;
-        context = m_fonts.context(supply, block.direction);
-        layout = paragraph.layout(width, context);
+        context = m_fonts.context(supply, block.direction, block.language);
+        layout = paragraph.layout(width, context.get());
         if (isWhole(layout.get()))
-            return { std::move(paragraph), context, std::move(layout) };
+            return { std::move(paragraph), std::move(context), std::move(layout) };
     }
-    const auto all = paragraph.uncut(context);
+    const auto all = paragraph.uncut(context.get());
     for (const std::string_view mark : { "□", "–" }) {
         auto marked = paragraph.withoutMissingLetters(all.get(), mark);
-        layout = marked.layout(width, context);
+        layout = marked.layout(width, context.get());
         if (isWhole(layout.get()))
-            return { std::move(marked), context, std::move(layout) };
+            return { std::move(marked), std::move(context), std::move(layout) };
     }
-    return { std::move(paragraph), context, std::move(layout) };
+    return { std::move(paragraph), std::move(context), std::move(layout) };
 }
 
 std::shared_ptr<const ShapedText> PangoTextSystem::shapeAfresh(const TextBlock& block, double width)
@@ -183,7 +183,7 @@ std::shared_ptr<const ShapedText> PangoTextSystem::shapeAfresh(const TextBlock& 
     const bool isCut = pango_layout_is_ellipsized(layout.get()) != FALSE;
     if (auto better = isCut ? paragraph.cutWell(layout.get()) : std::nullopt) {
         paragraph = *std::move(better);
-        layout = paragraph.layout(width / scale, context);
+        layout = paragraph.layout(width / scale, context.get());
     }
     if (block.balanced && !isCut && std::isfinite(width))
         balance(layout.get());
