@@ -3,10 +3,10 @@
 #include <cstdint>
 #include <memory>
 #include <unordered_map>
-
-#include "OrvelPlatform/Drawing/Handles.h"
+#include <vector>
 
 struct _PangoFont;
+struct _cairo_surface;
 
 namespace orvel {
 
@@ -16,15 +16,18 @@ class GlyphMasks {
 public:
     /// Device pixels; the origin is the glyph's, on the baseline.
     struct Mask {
-        SurfaceHandle coverage; // null: nothing is seen
-        int left;
-        int top;
+        std::vector<std::uint8_t> coverage; // row by row
+        int width = 0; // 0: nothing is seen
+        int left = 0;
+        int top = 0;
     };
+
+    static constexpr int places = 64; // in a pixel; as finely as the rasteriser places points
 
     GlyphMasks();
     ~GlyphMasks();
 
-    /// `place` is where the origin stands within its pixel, from 0 to 255 of 256. Valid until the next call.
+    /// `place` is where the origin stands within its pixel, in 64ths from 0 on. Valid until the next call.
     const Mask& find(_PangoFont* font, std::uint32_t glyph, double scale, unsigned place);
 
 private:

@@ -217,7 +217,7 @@ bool PangoShapedText::hasPlainGlyphs() const
 
 void PangoShapedText::addGlyphs(Mask& mask, std::size_t line, double scale, int baseline) const
 {
-    constexpr double places = 256;
+    constexpr int places = GlyphMasks::places;
     int x = 0;
     for (const auto* item : itemsOf(linesOf(m_layout.get()).at(line))) {
         for (int i = 0; i < item->glyphs->num_glyphs; ++i) {
@@ -227,10 +227,10 @@ void PangoShapedText::addGlyphs(Mask& mask, std::size_t line, double scale, int 
             x += info.geometry.width;
             if (info.glyph == PANGO_GLYPH_EMPTY)
                 continue;
-            const int pixel = place >> 8; // rounds down also what is negative
+            const int rest = ((place % places) + places) % places;
             add(m_glyphs->find(
-                    item->item->analysis.font, info.glyph, scale * m_layoutScale, static_cast<unsigned>(place & 0xff)),
-                mask.coverage.get(), pixel, baseline - mask.top);
+                    item->item->analysis.font, info.glyph, scale * m_layoutScale, static_cast<unsigned>(rest)),
+                mask.coverage.get(), (place - rest) / places, baseline - mask.top);
         }
     }
 }

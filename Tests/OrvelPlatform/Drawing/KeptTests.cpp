@@ -109,7 +109,8 @@ TEST(TextMasks, putTogetherFromGlyphsAreWhatTheirOutlinesGive)
         for (std::size_t i = 0; i < glyphs.words.size(); ++i) {
             const int one = static_cast<int>(glyphs.words[i] >> 24U),
                       other = static_cast<int>(outlines.words[i] >> 24U);
-            ASSERT_LE(std::abs(one - other), 48) << words << ", pixel " << i; // edges are sampled a little differently
+            // Of one the curves are exact, of the other they are lines that keep within a tenth of a pixel.
+            ASSERT_LE(std::abs(one - other), 64) << words << ", pixel " << i;
             ink += one > 128 ? 1 : 0;
         }
         EXPECT_GT(ink, 500U) << words;
