@@ -94,15 +94,12 @@ bool CairoCanvas::isWhole(const Rect& pixels) const
         && pixels.bottom() >= cairo_image_surface_get_height(target);
 }
 
-/// Leaves of a ground what the drawing covers within the clips. The outlines are cut as one: edges that coincide would
-/// be softened once for each.
-void CairoCanvas::cutGround(cairo_surface_t* ground, const Drawing& drawing) const
+/// Leaves of a ground's rows what the drawing covers within the clips. The outlines are cut as one: edges that coincide
+/// would be softened once for each.
+void CairoCanvas::cutRows(cairo_surface_t* ground, const PixelBox& rows, const Drawing& drawing) const
 {
-    const SurfaceHandle mask(cairo_surface_create_similar_image(
-        ground, CAIRO_FORMAT_A8, cairo_image_surface_get_width(ground), cairo_image_surface_get_height(ground)));
-    double left = 0, top = 0;
-    cairo_surface_get_device_offset(ground, &left, &top);
-    cairo_surface_set_device_offset(mask.get(), left, top);
+    const SurfaceHandle mask(cairo_image_surface_create(CAIRO_FORMAT_A8, rows.width, rows.height));
+    cairo_surface_set_device_offset(mask.get(), -rows.left, -rows.top);
     const CairoHandle onMask(cairo_create(mask.get()));
     cairo_matrix_t matrix;
     cairo_get_matrix(current(), &matrix);
@@ -110,16 +107,43 @@ void CairoCanvas::cutGround(cairo_surface_t* ground, const Drawing& drawing) con
     m_clips.applyTo(onMask.get());
     drawing(onMask.get());
     const CairoHandle onGround(cairo_create(ground));
+    cairo_rectangle(onGround.get(), rows.left, rows.top, rows.width, rows.height);
+    cairo_clip(onGround.get()); // the operator clears all that is outside of what it draws
     cairo_set_operator(onGround.get(), CAIRO_OPERATOR_DEST_IN);
     cairo_set_source_surface(onGround.get(), mask.get(), 0, 0);
     cairo_paint(onGround.get());
+}
+
+/// Leaves of a ground what the drawing covers within the clips. Between its rounded corners there is nothing to cut.
+void CairoCanvas::cutGround(cairo_surface_t* ground, const Rect& drawn, const Drawing& drawing) const
+{
+    constexpr int step = 16;
+    double left = 0, top = 0;
+    cairo_surface_get_device_offset(ground, &left, &top);
+    const PixelBox all { -static_cast<int>(left), -static_cast<int>(top), cairo_image_surface_get_width(ground),
+        cairo_image_surface_get_height(ground) };
+    const auto rows = [&](int first, int end) {
+        return PixelBox { all.left, all.top + first, all.width, std::min(end, all.height) - first };
+    };
+    const auto isCut = [&](int first) {
+        const auto within = rectOf(rows(first, first + step));
+        return !drawn.contains(within) || m_clips.cut(within);
+    };
+    for (int first = 0; first < all.height; first += step) {
+        int end = first;
+        while (end < all.height && isCut(end))
+            end += step;
+        if (end > first)
+            cutRows(ground, rows(first, end), drawing);
+        first = end;
+    }
 }
 
 SurfaceHandle CairoCanvas::groundSurface(
     const LinearGradient& gradient, const PaintedArea& area, const Drawing& drawing) const
 {
     auto surface = gradientSurface(current(), gradient, area);
-    cutGround(surface.get(), drawing);
+    cutGround(surface.get(), inPixels(current(), area.rect), drawing);
     return surface;
 }
 
@@ -136,8 +160,7 @@ void CairoCanvas::paintGround(const LinearGradient& gradient, const PaintedArea&
     m_clips.addTo(key);
     if (m_isClear && m_sources.kept.isWantedOnce(key, static_cast<std::size_t>(box.width * box.height) * 4)) {
         fillTarget(context, gradient, area);
-        if (!isWhole(pixels) || m_clips.cut(pixels))
-            cutGround(cairo_get_target(context), drawing);
+        cutGround(cairo_get_target(context), pixels, drawing);
         m_isClear = false;
         return;
     }

@@ -4,6 +4,7 @@
 #include <optional>
 #include <vector>
 
+#include "OrvelPlatform/Drawing/DeviceSpace.h"
 #include "OrvelPlatform/Drawing/Handles.h"
 #include "OrvelPlatform/Drawing/PendingClips.h"
 #include "OrvelPlatform/Drawing/Sources.h"
@@ -42,7 +43,8 @@ private:
         const Paint& paint, const PaintedArea& area, const std::optional<Rect>& pixels, const Drawing& drawing);
     void paintMask(const Paint& paint, const PaintedArea& area, _cairo_surface* mask, Point at);
     void paintGround(const LinearGradient& gradient, const PaintedArea& area, const Drawing& drawing);
-    void cutGround(_cairo_surface* ground, const Drawing& drawing) const;
+    void cutRows(_cairo_surface* ground, const PixelBox& rows, const Drawing& drawing) const;
+    void cutGround(_cairo_surface* ground, const Rect& drawn, const Drawing& drawing) const;
     SurfaceHandle groundSurface(const LinearGradient& gradient, const PaintedArea& area, const Drawing& drawing) const;
     void paintShape(const Paint& paint, const PaintedArea& area, SurfaceKey key, const Drawing& drawing);
     bool isWhole(const Rect& pixels) const;

@@ -44,6 +44,12 @@ PixelBox pixelsAround(const Rect& pixels)
         static_cast<int>(std::ceil(pixels.bottom()) - top) };
 }
 
+Rect rectOf(const PixelBox& box)
+{
+    return { static_cast<double>(box.left), static_cast<double>(box.top), static_cast<double>(box.width),
+        static_cast<double>(box.height) };
+}
+
 Rect snapped(const Rect& pixels)
 {
     const bool isUpright = pixels.width < pixels.height;

@@ -16,6 +16,7 @@ struct PixelBox {
     int height;
 };
 PixelBox pixelsAround(const Rect& pixels);
+Rect rectOf(const PixelBox& box);
 
 /// Device pixels in a point.
 double scaleOf(_cairo* context);

@@ -69,7 +69,7 @@ bool PendingClips::isWithin(const Rect& pixels, const Clip& clip)
         return false;
     const double radius = *points * clip.scale;
     const auto& [x, y, width, height] = clip.pixels;
-    if (pixels.x < x || pixels.y < y || pixels.right() > x + width || pixels.bottom() > y + height)
+    if (!clip.pixels.contains(pixels))
         return false;
     const auto outwards = [&](double from, double to, double start, double length) {
         return std::max({ start + radius - from, to - (start + length - radius), 0.0 });
@@ -84,9 +84,7 @@ bool PendingClips::cut(const std::optional<Rect>& pixels) const
     const auto pending = m_clips.begin() + static_cast<std::ptrdiff_t>(m_applied);
     if (!pixels)
         return pending != m_clips.end();
-    const auto box = pixelsAround(*pixels);
-    const Rect whole { static_cast<double>(box.left), static_cast<double>(box.top), static_cast<double>(box.width),
-        static_cast<double>(box.height) };
+    const auto whole = rectOf(pixelsAround(*pixels));
     return std::any_of(pending, m_clips.end(), [&](const Clip& clip) { return !isWithin(whole, clip); });
 }
 

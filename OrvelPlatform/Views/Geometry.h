@@ -37,6 +37,12 @@ struct Rect {
     /// The same rectangle with every side moved inward, or outward for a negative amount; never of a negative size.
     Rect insetBy(double amount) const;
 
+    /// Whether no part of the other one lies outside.
+    constexpr bool contains(const Rect& other) const
+    {
+        return other.x >= x && other.y >= y && other.right() <= right() && other.bottom() <= bottom();
+    }
+
     bool operator==(const Rect&) const = default;
 };
 
