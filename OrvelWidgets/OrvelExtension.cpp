@@ -1,5 +1,6 @@
 #include "OrvelWidgets/OrvelExtension.h"
 
+#include <system_error>
 #include <utility>
 
 #include "OrvelCopy/Lookup/Lookup.h"
@@ -97,6 +98,7 @@ Answer<ExtensionPicture> OrvelExtension::render(
         return refusal(RequestFault::Kind::badEntry, "The entry's moment is damaged or of another version.");
     const auto widget = worded(environment,
         [&] { return shown(kind, { .date = entry.date, .moment = *std::move(moment) }, entryPlace(environment)); });
+    m_preparation = {}; // over, before it is drawn with
     auto drawn = m_sources.draw(widgetDrawing(widget, environment));
     if (!drawn)
         return refusal(RequestFault::Kind::cannotDraw, drawn.error().text());
@@ -127,8 +129,13 @@ Task<Answer<void>> OrvelExtension::perform(std::string intent, IntentParameters 
 
 void OrvelExtension::prepareForPictures()
 {
-    if (m_sources.prepareForPictures)
-        m_sources.prepareForPictures();
+    if (!m_sources.prepareForPictures)
+        return;
+    try {
+        m_preparation = std::jthread(m_sources.prepareForPictures);
+    } catch (const std::system_error&) {
+        // Without a thread the first picture loads what it needs by itself.
+    }
 }
 
 }

@@ -3,6 +3,7 @@
 #include <expected>
 #include <functional>
 #include <optional>
+#include <thread>
 
 #include "OrvelPlatform/Base/Clock.h"
 #include "OrvelPlatform/Base/Foreground.h"
@@ -21,7 +22,7 @@ public:
     struct Sources {
         std::function<std::optional<WidgetSnapshot>()> snapshot;
         std::function<std::expected<DrawnWidget, Fault>(const WidgetDrawing&)> draw;
-        std::function<void()> prepareForPictures; // may be empty
+        std::function<void()> prepareForPictures; // in a thread of its own, before the first `draw`; may be empty
         Clock& clock;
         Workspace& workspace;
         Foreground& foreground;
@@ -41,6 +42,7 @@ public:
 
 private:
     Sources m_sources;
+    std::jthread m_preparation;
 };
 
 }

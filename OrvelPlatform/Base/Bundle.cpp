@@ -43,13 +43,13 @@ Bundle Bundle::main()
 
 Bundle Bundle::holding(const void* address)
 {
-    // The loader's own record, because a program's name there is empty, and not what its caller made of argv[0].
-    Dl_info module {};
-    void* record = nullptr;
+    // The loader's own record, because a program's name there is empty, and not what its caller made of argv[0]. It is
+    // found without waiting for a library that another thread is loading.
+    dl_find_object module {};
     std::error_code error;
-    if (::dladdr1(address, &module, &record, RTLD_DL_LINKMAP) == 0 || !record)
+    if (::_dl_find_object(const_cast<void*>(address), &module) != 0)
         return main();
-    const std::string_view name = static_cast<const link_map*>(record)->l_name;
+    const std::string_view name = module.dlfo_link_map->l_name;
     const auto file = name.empty() ? fs::path() : fs::canonical(name, error);
     return file.empty() || error ? main() : Bundle(file.parent_path());
 }

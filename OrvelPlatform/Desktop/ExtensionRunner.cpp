@@ -92,7 +92,7 @@ private:
     void leave();
     void receive(MethodCall call);
     Answer<Reply> answer(const MethodCall& call);
-    void prepareAfterTimeline();
+    void prepareForPictures();
     void waitForRequests();
 
     EventLoop& m_loop;
@@ -157,10 +157,12 @@ void ExtensionRunner::leave()
 
 void ExtensionRunner::receive(MethodCall call)
 {
+    if (call.method() == "Render")
+        prepareForPictures();
     const auto isTimeline = call.method() == "Timeline";
     call.answer(answer(call));
     if (isTimeline && !m_isPrepared)
-        prepareAfterTimeline();
+        m_preparation = m_loop.whenIdle([this] { prepareForPictures(); });
     waitForRequests();
 }
 
@@ -177,12 +179,10 @@ Answer<Reply> ExtensionRunner::answer(const MethodCall& call)
     }
 }
 
-void ExtensionRunner::prepareAfterTimeline()
+void ExtensionRunner::prepareForPictures()
 {
-    m_preparation = m_loop.whenIdle([this] {
-        m_isPrepared = true;
+    if (!std::exchange(m_isPrepared, true))
         m_extension.prepareForPictures();
-    });
 }
 
 /// From now on. While something is being performed the time does not count: it begins anew with the answer.

@@ -226,7 +226,8 @@ public:
     /// meanwhile.
     virtual Task<Answer<void>> perform(std::string intent, IntentParameters parameters, IntentPlatform platform) = 0;
 
-    /// Called once, when nothing waits after the first timeline was answered: the time to load what pictures need.
+    /// Called once, to begin loading what pictures need: as soon as the first picture is asked for, or when nothing
+    /// waits after the first timeline was answered. Nobody waits for it but `render`.
     virtual void prepareForPictures() { }
 };
 
