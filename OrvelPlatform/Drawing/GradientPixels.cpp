@@ -9,8 +9,9 @@ namespace orvel {
 
 namespace {
 
-/// Four premultiplied channels of 16 bits in one word: blue, green, red, alpha from the lowest up. The upper byte of
-/// each is the pixel's value, the lower one what dithering decides about.
+/// Four premultiplied channels of 16 bits in one word: blue, red, green, alpha from the lowest up. The upper byte of
+/// each is the pixel's value, the lower one what dithering decides about. In this order two and two of them are as far
+/// from each other as in a pixel.
 using Lanes = std::uint64_t;
 
 constexpr std::size_t tableSize = 2048;
@@ -30,7 +31,7 @@ std::vector<Lanes> tableOf(std::span<const GradientStop> stops)
         const auto color = colorAt(stops, static_cast<double>(i) / tableSize);
         const double alpha = std::clamp(color.alpha, 0.0, 1.0);
         table.push_back(
-            lane(color.blue * alpha, 0) | lane(color.green * alpha, 1) | lane(color.red * alpha, 2) | lane(alpha, 3));
+            lane(color.blue * alpha, 0) | lane(color.red * alpha, 1) | lane(color.green * alpha, 2) | lane(alpha, 3));
     }
     return table;
 }
@@ -59,10 +60,8 @@ constexpr Thresholds thresholds()
 std::uint32_t pixel(Lanes color, Lanes threshold)
 {
     const Lanes sum = color + threshold; // at most 255 × 256 + 254: no lane overflows
-    constexpr unsigned byte = 8;
-    const Lanes bytes = sum >> byte & 0x00ff'00ff'00ff'00ff;
-    const Lanes pairs = bytes | bytes >> byte; // in the lowest 16 bits and in those from the 32nd on
-    return static_cast<std::uint32_t>((pairs & 0xffffU) | (pairs >> (2 * byte) & 0xffff'0000U));
+    constexpr unsigned byte = 8, half = 32;
+    return static_cast<std::uint32_t>((sum >> byte & 0x00ff'00ffU) | (sum >> half & 0xff00'ff00U));
 }
 
 /// Fills the grid row by row: `rowAt(fromTop)` gives what tells a pixel's place in the table of colours. Distances are

@@ -179,7 +179,7 @@ TEST(Pictures, drawnInEarnestHaveActionsThatCanBePerformed)
     ExtensionWorld world(ExtensionWorld::sample(Scene::next));
     OrvelExtension extension({ .snapshot = [&] { return world.snapshot; },
         .draw = drawWidget,
-        .prepareForPictures = {},
+        .prepareForPictures = [] { EXPECT_TRUE(prepareDrawing()); },
         .clock = world.intents.clock,
         .workspace = world.intents.workspace,
         .foreground = world.intents.foreground });
@@ -187,6 +187,7 @@ TEST(Pictures, drawnInEarnestHaveActionsThatCanBePerformed)
     environment.family = "systemMedium";
     environment.language = "de";
     const auto entry = extension.snapshot(Kind::status, environment).value();
+    extension.prepareForPictures();
     const auto picture = extension.render(Kind::status, entry, environment).value();
     ASSERT_EQ(picture.actions.size(), 1U);
     const auto& action = picture.actions.front();

@@ -224,7 +224,7 @@ TEST_F(OnTheBus, aRequestEndsAtItsDeadline)
     EXPECT_EQ(get(hasty.perform("OpenBreathe", { { "minutes", std::int64_t { 100 } } }, {})).error().kind, Kind::late);
 }
 
-TEST_F(OnTheBus, preparesForPicturesAfterTheFirstTimeline)
+TEST_F(OnTheBus, preparesForPicturesAfterTheFirstTimelineOrForTheFirstPicture)
 {
     startAnewWith("30000", "50");
     EXPECT_EQ(state().isOn, false);
@@ -232,6 +232,11 @@ TEST_F(OnTheBus, preparesForPicturesAfterTheFirstTimeline)
     EXPECT_EQ(state().isOn, false);
     EXPECT_TRUE(get(host.timeline("plain", {})));
     EXPECT_TRUE(lookUntil(loop, [&] { return state().isOn == true; }));
+
+    startAnewWith("30000", "50");
+    EXPECT_EQ(state().isOn, false);
+    EXPECT_TRUE(get(host.render("plain", entry, {})));
+    EXPECT_EQ(state().isOn, true);
 }
 
 /// Also when nobody has taken note of its end yet.
