@@ -1,5 +1,6 @@
 #include "WidgetHost/Windows/WindowContent.h"
 
+#include <chrono>
 #include <cmath>
 #include <utility>
 
@@ -17,6 +18,9 @@ namespace orvel {
 namespace {
 
 constexpr double fineStep = Tokens::Space::s1;
+
+/// A card whose picture comes sooner shows nothing before it: nobody would have the time to read a name.
+constexpr std::chrono::milliseconds wordlessSpan { 250 };
 
 }
 
@@ -71,8 +75,24 @@ void WindowContent::show(WidgetFace face)
         makeNotice();
     repaint(changed);
     m_toolkit.window().set_title(m_face->name);
-    if (isFirst)
-        outputsChanged();
+    if (!isFirst)
+        return;
+    outputsChanged();
+    if (!m_face->picture)
+        m_toolkit.after(wordlessSpan, [this] { sayName(); });
+}
+
+void WindowContent::sayName()
+{
+    m_saysName = true;
+    makePlaceholder();
+    if (m_placeholder)
+        m_toolkit.repaint(m_placeholder->place);
+}
+
+void WindowContent::makePlaceholder()
+{
+    m_placeholder = m_saysName ? m_windows.pictures().placeholder(*m_face, m_geometry) : nullptr;
 }
 
 void WindowContent::layOut()
@@ -83,7 +103,7 @@ void WindowContent::layOut()
     m_toolkit.takePointerIn(rowsOfCard(m_geometry));
     m_toolkit.saySurround(static_cast<int>(m_geometry.card.x));
     makeFrame();
-    m_placeholder = m_windows.pictures().placeholder(*m_face, m_geometry);
+    makePlaceholder();
     makeNotice();
     putInPlace();
     if (std::exchange(m_toldScale, scale) != scale && m_events.scaleChanged)

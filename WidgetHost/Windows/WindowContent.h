@@ -38,6 +38,8 @@ private:
 
     // What is seen.
     void layOut();
+    void sayName();
+    void makePlaceholder();
     void makeNotice();
     void surroundingsChanged();
     void repaint(const FaceChange& change);
@@ -75,6 +77,7 @@ private:
     std::int64_t m_shownSince = 0; // monotonic microseconds
 
     std::shared_ptr<const WindowPictures::Frame> m_frame;
+    bool m_saysName = false; // of the widget, while it has no picture
     std::shared_ptr<const WindowPictures::Placed> m_placeholder;
     std::shared_ptr<const WindowPictures::Placed> m_notice;
     std::shared_ptr<const WindowPictures::Placed> m_ring;

@@ -30,6 +30,7 @@ struct WindowToolkit::Parts {
     Glib::RefPtr<Gtk::GestureLongPress> longTouch {};
     Cairo::RefPtr<Cairo::Region> region {};
     sigc::connection waiting {};
+    sigc::connection patience {};
     int room = 0;
     bool isHandShown = false;
 
@@ -68,6 +69,7 @@ WindowToolkit::WindowToolkit() : m_parts(std::make_unique<Parts>())
 WindowToolkit::~WindowToolkit()
 {
     m_parts->waiting.disconnect();
+    m_parts->patience.disconnect();
 }
 
 void WindowToolkit::listen(WindowHandlers handlers)
@@ -202,6 +204,16 @@ void WindowToolkit::later(std::function<void()> what)
         what();
         return false;
     });
+}
+
+void WindowToolkit::after(std::chrono::milliseconds span, std::function<void()> what)
+{
+    m_parts->patience.disconnect();
+    const auto once = [what = std::move(what)] {
+        what();
+        return false;
+    };
+    m_parts->patience = Glib::signal_timeout().connect(once, static_cast<unsigned>(span.count()));
 }
 
 }

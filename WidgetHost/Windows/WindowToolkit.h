@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -68,6 +69,8 @@ public:
     void popUp(std::unique_ptr<Gtk::Menu> menu, const _GdkEvent* event, const Rect& card);
     /// Runs when the loop has nothing else to do, once; a later call replaces it.
     void later(std::function<void()> what);
+    /// Runs after a span, once, unless this is gone; a later call replaces it too.
+    void after(std::chrono::milliseconds span, std::function<void()> what);
 
 private:
     struct Parts;

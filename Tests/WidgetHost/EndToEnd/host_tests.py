@@ -72,7 +72,9 @@ class Screen:
         """Bytes of a part of the screen; without one, where a medium widget lies that is the first."""
         self.desktop.screenshot(self.desktop.folder / "seen.png")
         screen = GdkPixbuf.Pixbuf.new_from_file(str(self.desktop.folder / "seen.png"))
-        return screen.new_subpixbuf(x, y, width, height).copy().get_pixels()
+        part = screen.new_subpixbuf(x, y, width, height).copy()
+        everything, stride, row = part.get_pixels(), part.get_rowstride(), width * part.get_n_channels()
+        return b"".join(everything[start:start + row] for start in range(0, height * stride, stride))
 
     def changed(self, before, *place, seconds=SLOW):
         return wait_for(lambda: self.pixels(*place) != before, seconds)
@@ -129,6 +131,19 @@ class Widgets(unittest.TestCase):
             with self.subTest("a minute of the Focus is over"):
                 focus = screen.settled()
                 self.assertTrue(screen.changed(focus, seconds=60 + SLOW), "the next minute comes by itself")
+
+    def test_say_their_name_while_the_extension_is_silent(self):
+        screen = Screen(("systemMedium", STATUS))
+        service = screen.desktop.folder / "services" / "app.orvel.Orvel.WidgetExtension.service"
+        service.write_text("[D-BUS Service]\nName=app.orvel.Orvel.WidgetExtension\nExec=/bin/sleep 60\n")
+        with screen:
+            middle = GAP + 132, GAP + 70, 100, 30  # of the card, where a name is
+
+            def written():
+                seen = screen.pixels(*middle)
+                return max(seen) > 230 and min(seen) < 150  # dark words on a light card
+
+            self.assertTrue(wait_for(written, SLOW))
 
     def test_act_on_clicks(self):
         with Screen(("systemMedium", STATUS), state="next") as screen:
