@@ -24,6 +24,7 @@ NAME, PATH = "app.orvel.Orvel.WidgetExtension", "/app/orvel/Orvel/WidgetExtensio
 STATUS = "app.orvel.widget.status"
 PLACE = 48, 110, 240, 90  # within the title of a medium widget that lies first
 PATIENCE = 10  # seconds
+NAP = 0.001  # seconds between looks: who looks without a pause takes a whole core from what is measured
 
 
 def pixels():
@@ -40,6 +41,7 @@ def time_of_change(before):
         now = pixels()
         if now != before:
             return time.monotonic() * 1000
+        time.sleep(NAP)
     raise SystemExit("screen_watch.py: nothing changed on the screen")
 
 
@@ -56,6 +58,7 @@ def start(*command):
         if now != shown:
             shown = now
             changes.append(time.monotonic() * 1000 - began)
+        time.sleep(NAP)
     program.terminate()
     program.wait()
     return {"first": changes[0], "settled": changes[-1]}
