@@ -12,17 +12,22 @@ namespace orvel {
 
 namespace fs = std::filesystem;
 
-void addFonts(FcConfig* configuration, const fs::path& folder, std::string_view begin)
+void addFonts(FcConfig* configuration, const fs::path& folder)
 {
     std::error_code error;
-    std::vector<std::string> files;
+    std::vector<fs::path> files;
     for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
-        if (entry->path().extension() == ".ttf" && entry->path().filename().string().starts_with(begin))
-            files.push_back(entry->path().string());
+        if (entry->path().extension() == ".ttf")
+            files.push_back(entry->path());
     }
     std::ranges::sort(files); // a folder's order is anyone's guess
     for (const auto& file : files)
-        FcConfigAppFontAddFile(configuration, reinterpret_cast<const FcChar8*>(file.c_str()));
+        addFont(configuration, file);
+}
+
+void addFont(FcConfig* configuration, const fs::path& file)
+{
+    FcConfigAppFontAddFile(configuration, reinterpret_cast<const FcChar8*>(file.c_str()));
 }
 
 void addFontsToProcess(const fs::path& folder)

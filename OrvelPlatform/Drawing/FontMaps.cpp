@@ -1,5 +1,6 @@
 #include "OrvelPlatform/Drawing/FontMaps.h"
 
+#include <fmt/format.h>
 #include <pango/pangocairo.h>
 #include <pango/pangofc-fontmap.h>
 #include <string>
@@ -44,7 +45,12 @@ FontMaps::Set FontMaps::made(FontSupply supply) const
         Handle<PangoFontMap>(pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT)) };
     if (m_scope == FontScope::ownProcess && supply != FontSupply::all)
         FcConfigSetCurrent(set.configuration.get());
-    addFonts(set.configuration.get(), m_folder, supply == FontSupply::rounded ? "rounded-" : "");
+    if (supply == FontSupply::rounded) {
+        for (const int weight : roundedWeights)
+            addFont(set.configuration.get(), m_folder / fmt::format("rounded-{}.ttf", weight));
+    } else {
+        addFonts(set.configuration.get(), m_folder);
+    }
     pango_fc_font_map_set_config(PANGO_FC_FONT_MAP(set.map.get()), set.configuration.get());
     // Of the map and not of its contexts: the library measures a font in a context of its own, and would look for the
     // font again in another resolution.

@@ -31,8 +31,11 @@ struct Release {
 /// The fewest fonts that may have the block's letters.
 FontSupply leastSupply(const TextBlock& block)
 {
-    const auto isRounded = [](const TextRun& run) { return run.style.family == FontFamily::rounded; };
-    return std::ranges::all_of(block.runs, isRounded) ? FontSupply::rounded : FontSupply::own;
+    const auto isCommon = [](const TextRun& run) {
+        return run.style.family == FontFamily::rounded
+            && std::ranges::find(roundedWeights, run.style.weight) != roundedWeights.end();
+    };
+    return std::ranges::all_of(block.runs, isCommon) ? FontSupply::rounded : FontSupply::own;
 }
 
 /// The library looks for a typeface anew, in two threads, and measures a sample text with it for each size that it is
