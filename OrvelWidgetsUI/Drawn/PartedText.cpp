@@ -62,9 +62,12 @@ bool hasRoomForParts(const PartedText& parted, std::string_view tight, double wi
 
 bool isCut(const Text& text, double width, const Environment& environment)
 {
+    // The same one as is measured, so that it is set once.
     const TextBlock block {
         .runs = { { text.runs.front().text, text.runs.front().style } },
         .lineLimit = text.lineLimit,
+        .alignment = text.alignment,
+        .balanced = text.balanced,
         .direction = environment.get<LayoutDirectionKey>(),
         .language = environment.get<TextLanguageKey>(),
     };
