@@ -13,6 +13,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr std::size_t mostContexts = 16; // desktops speak few languages
+
 /// The name under which typefaces say that they are for a language. Of Chinese they know places and no scripts.
 PangoLanguage* pangoLanguage(std::string_view tag)
 {
@@ -37,12 +39,24 @@ void setExact(PangoContext* context)
     pango_context_set_round_glyph_positions(context, FALSE);
 }
 
+Handle<PangoContext> contextFor(PangoFontMap* map, LayoutDirection direction, std::string_view language)
+{
+    Handle<PangoContext> context(pango_font_map_create_context(map));
+    setExact(context.get());
+    pango_context_set_base_dir(
+        context.get(), direction == LayoutDirection::leftToRight ? PANGO_DIRECTION_LTR : PANGO_DIRECTION_RTL);
+    // Fonts are looked for by language as well: what has none of its own, an ellipsis, is to find the same ones.
+    if (!language.empty())
+        pango_context_set_language(context.get(), pangoLanguage(language));
+    return context;
+}
+
 }
 
 FontMaps::Set FontMaps::made(FontSupply supply) const
 {
     Set set { Handle<FcConfig>(supply == FontSupply::all ? FcInitLoadConfigAndFonts() : FcConfigCreate()),
-        Handle<PangoFontMap>(pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT)) };
+        Handle<PangoFontMap>(pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT)), {} };
     if (m_scope == FontScope::ownProcess && supply != FontSupply::all)
         FcConfigSetCurrent(set.configuration.get());
     if (supply == FontSupply::rounded) {
@@ -59,19 +73,17 @@ FontMaps::Set FontMaps::made(FontSupply supply) const
     return set;
 }
 
-Handle<PangoContext> FontMaps::context(FontSupply supply, LayoutDirection direction, std::string_view language)
+PangoContext* FontMaps::context(FontSupply supply, LayoutDirection direction, std::string_view language)
 {
     auto& set = m_sets.at(static_cast<std::size_t>(supply));
     if (!set.map)
         set = made(supply);
-    Handle<PangoContext> context(pango_font_map_create_context(set.map.get()));
-    setExact(context.get());
-    pango_context_set_base_dir(
-        context.get(), direction == LayoutDirection::leftToRight ? PANGO_DIRECTION_LTR : PANGO_DIRECTION_RTL);
-    // Fonts are looked for by language as well: what has none of its own, an ellipsis, is to find the same ones.
-    if (!language.empty())
-        pango_context_set_language(context.get(), pangoLanguage(language));
-    return context;
+    if (set.contexts.size() > mostContexts)
+        set.contexts.clear();
+    auto& context = set.contexts[{ direction, std::string(language) }];
+    if (!context)
+        context = contextFor(set.map.get(), direction, language);
+    return context.get();
 }
 
 }

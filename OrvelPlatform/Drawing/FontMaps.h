@@ -2,6 +2,8 @@
 
 #include <array>
 #include <filesystem>
+#include <map>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -29,14 +31,16 @@ class FontMaps {
 public:
     FontMaps(std::filesystem::path folder, FontScope scope) : m_folder(std::move(folder)), m_scope(scope) { }
 
-    /// A context for shaping paragraphs of one direction and language (BCP 47; empty: not known). A later change of a
-    /// context undoes its layouts, so that each paragraph has its own.
-    Handle<_PangoContext> context(FontSupply supply, LayoutDirection direction, std::string_view language);
+    /// A context for shaping paragraphs of one direction and language (BCP 47; empty: not known). Layouts keep theirs;
+    /// otherwise it is valid until the next call.
+    _PangoContext* context(FontSupply supply, LayoutDirection direction, std::string_view language);
 
 private:
     struct Set {
         Handle<_FcConfig> configuration;
         Handle<_PangoFontMap> map;
+        // A context's change would undo its layouts, so that each direction and language has one of its own.
+        std::map<std::pair<LayoutDirection, std::string>, Handle<_PangoContext>> contexts;
     };
 
     Set made(FontSupply supply) const;

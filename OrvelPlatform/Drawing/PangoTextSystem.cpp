@@ -159,24 +159,24 @@ PangoTextSystem::Kept& PangoTextSystem::keptOf(const TextBlock& block)
 PangoTextSystem::Shown PangoTextSystem::shown(const TextBlock& block, double width)
 {
     PangoParagraph paragraph(block);
-    Handle<PangoContext> context;
+    PangoContext* context = nullptr;
     Handle<PangoLayout> layout;
     for (const auto supply : { FontSupply::rounded, FontSupply::own, FontSupply::all }) {
         if (supply < leastSupply(block))
             continue;
         context = m_fonts.context(supply, block.direction, block.language);
-        layout = paragraph.layout(width, context.get());
+        layout = paragraph.layout(width, context);
         if (isWhole(layout.get()))
-            return { std::move(paragraph), std::move(context), std::move(layout) };
+            return { std::move(paragraph), context, std::move(layout) };
     }
-    const auto all = paragraph.uncut(context.get());
+    const auto all = paragraph.uncut(context);
     for (const std::string_view mark : { "□", "–" }) {
         auto marked = paragraph.withoutMissingLetters(all.get(), mark);
-        layout = marked.layout(width, context.get());
+        layout = marked.layout(width, context);
         if (isWhole(layout.get()))
-            return { std::move(marked), std::move(context), std::move(layout) };
+            return { std::move(marked), context, std::move(layout) };
     }
-    return { std::move(paragraph), std::move(context), std::move(layout) };
+    return { std::move(paragraph), context, std::move(layout) };
 }
 
 std::shared_ptr<const ShapedText> PangoTextSystem::shapeAfresh(const TextBlock& block, double width)
@@ -186,7 +186,7 @@ std::shared_ptr<const ShapedText> PangoTextSystem::shapeAfresh(const TextBlock& 
     const bool isCut = pango_layout_is_ellipsized(layout.get()) != FALSE;
     if (auto better = isCut ? paragraph.cutWell(layout.get()) : std::nullopt) {
         paragraph = *std::move(better);
-        layout = paragraph.layout(width / scale, context.get());
+        layout = paragraph.layout(width / scale, context);
     }
     if (block.balanced && !isCut && std::isfinite(width))
         balance(layout.get());

@@ -60,7 +60,7 @@ private:
     /// A paragraph as it can be shown, with the fonts that it needs.
     struct Shown {
         PangoParagraph paragraph;
-        Handle<_PangoContext> context;
+        _PangoContext* context;
         Handle<_PangoLayout> layout;
     };
 
