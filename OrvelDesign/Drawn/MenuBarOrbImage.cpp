@@ -12,92 +12,180 @@ namespace {
 
 using namespace MenuBarOrbGlyph;
 
-double between(Place a, Place b)
+double squared(double length)
 {
-    return std::hypot(a.x - b.x, a.y - b.y);
+    return length * length;
 }
 
-// How far a place lies outside a mark, in pixels; negative inside it.
-
-double outside(const Dot& dot, Place place)
+double squareBetween(Place a, Place b)
 {
-    return between(place, dot.centre) - dot.diameter / 2;
+    return squared(a.x - b.x) + squared(a.y - b.y);
 }
 
-double outside(const Hole& hole, Place place)
+// The areas that marks cover. Each pixel of an edge asks some hundred times whether a place lies within, so that what
+// is dear is found out before, and distances are compared by their squares.
+
+/// What lies within one circle and not within another one about the same centre; a negative inner radius is none.
+class Band {
+public:
+    Band(Place centre, double inner, double outer)
+        : m_centre(centre)
+        , m_inner(inner)
+        , m_outer(outer)
+        , m_innerSquare(inner < 0 ? -1 : squared(inner))
+        , m_outerSquare(squared(outer))
+    {
+    }
+
+    bool holds(Place place) const
+    {
+        const double square = squareBetween(place, m_centre);
+        return square > m_innerSquare && square < m_outerSquare;
+    }
+
+    /// How far a place lies outside, in pixels; negative inside.
+    double outside(Place place) const
+    {
+        const double fromCentre = std::sqrt(squareBetween(place, m_centre));
+        return std::max(fromCentre - m_outer, m_inner - fromCentre);
+    }
+
+private:
+    Place m_centre;
+    double m_inner;
+    double m_outer;
+    double m_innerSquare;
+    double m_outerSquare;
+};
+
+Band disc(Place centre, double diameter)
 {
-    return between(place, hole.centre) - hole.diameter / 2;
+    return { centre, -1, diameter / 2 };
 }
 
-double outside(const MenuBarOrbGlyph::Ring& ring, Place place)
-{
-    const double fromCentre = between(place, ring.centre);
-    const double radius = ring.diameter / 2;
-    return std::max(fromCentre - radius, radius - ring.width - fromCentre);
-}
+/// A part of a band, ended by two discs.
+class Stroke {
+public:
+    explicit Stroke(const MenuBarOrbGlyph::Arc& arc)
+        : m_centre(arc.centre)
+        , m_start { std::cos(arc.start), std::sin(arc.start) }
+        , m_end { std::cos(arc.start + arc.sweep), std::sin(arc.start + arc.sweep) }
+        , m_isHalfOrLess(arc.sweep <= std::numbers::pi)
+        , m_band(arc.centre, arc.radius - arc.width / 2, arc.radius + arc.width / 2)
+        , m_caps { capAt(arc, m_start), capAt(arc, m_end) }
+    {
+    }
 
-Place endOf(const MenuBarOrbGlyph::Arc& arc, double angle)
-{
-    return { arc.centre.x + arc.radius * std::cos(angle), arc.centre.y + arc.radius * std::sin(angle) };
-}
+    bool holds(Place place) const
+    {
+        return isSwept(place) ? m_band.holds(place) : m_caps[0].holds(place) || m_caps[1].holds(place);
+    }
 
-double outside(const MenuBarOrbGlyph::Arc& arc, Place place)
-{
-    constexpr double turn = 2 * std::numbers::pi;
-    const double angle = std::atan2(place.y - arc.centre.y, place.x - arc.centre.x) - arc.start;
-    const bool isSwept = angle - turn * std::floor(angle / turn) <= arc.sweep;
-    const double fromLine = isSwept
-        ? std::abs(between(place, arc.centre) - arc.radius)
-        : std::min(between(place, endOf(arc, arc.start)), between(place, endOf(arc, arc.start + arc.sweep)));
-    return fromLine - arc.width / 2;
-}
+    double outside(Place place) const
+    {
+        return isSwept(place) ? m_band.outside(place) : std::min(m_caps[0].outside(place), m_caps[1].outside(place));
+    }
 
-/// The share of a pixel that a mark covers. Only pixels on an edge are looked at closely, on a grid whose points lie
+private:
+    static Band capAt(const MenuBarOrbGlyph::Arc& arc, Place direction)
+    {
+        return disc({ arc.centre.x + arc.radius * direction.x, arc.centre.y + arc.radius * direction.y }, arc.width);
+    }
+
+    /// Which side of the two ends a place is on says whether its angle lies between theirs.
+    bool isSwept(Place place) const
+    {
+        const double x = place.x - m_centre.x, y = place.y - m_centre.y;
+        const bool isAfterStart = m_start.x * y >= m_start.y * x, isBeforeEnd = m_end.x * y <= m_end.y * x;
+        return m_isHalfOrLess ? isAfterStart && isBeforeEnd : isAfterStart || isBeforeEnd;
+    }
+
+    Place m_centre;
+    Place m_start; // directions, of length 1
+    Place m_end;
+    bool m_isHalfOrLess;
+    Band m_band;
+    std::array<Band, 2> m_caps;
+};
+
+/// The share of a pixel that an area covers. Only pixels on an edge are looked at closely, on a grid whose points lie
 /// the same way from every side, so that what is symmetric stays so.
-template <typename Shape>
-double coverage(const Shape& mark, int x, int y)
+template <typename Area>
+double coverage(const Area& area, int x, int y)
 {
     constexpr double halfDiagonal = 0.71; // of a pixel, rounded up
-    const double atCentre = outside(mark, { x + 0.5, y + 0.5 });
+    const double atCentre = area.outside({ x + 0.5, y + 0.5 });
     if (std::abs(atCentre) > halfDiagonal)
         return atCentre < 0 ? 1 : 0;
     constexpr int grid = 16;
     int covered = 0;
     for (int row = 0; row < grid; ++row)
         for (int column = 0; column < grid; ++column)
-            covered += outside(mark, { x + (column + 0.5) / grid, y + (row + 0.5) / grid }) < 0 ? 1 : 0;
+            covered += area.holds({ x + (column + 0.5) / grid, y + (row + 0.5) / grid }) ? 1 : 0;
     return covered / double { grid * grid };
 }
 
-/// The alpha of a pixel with a mark drawn over it.
-double drawnOver(double below, const Mark& mark, int x, int y)
+/// The alpha of every pixel, row by row, while one mark after another is drawn over it.
+class Sheet {
+public:
+    explicit Sheet(int side)
+        : m_side(side), m_alpha(static_cast<std::size_t>(side) * static_cast<std::size_t>(side)) { }
+
+    template <typename Area>
+    void paint(const Area& area, double alpha)
+    {
+        draw(area, [alpha](double below, double share) { return alpha * share + below * (1 - alpha * share); });
+    }
+
+    template <typename Area>
+    void wipe(const Area& area)
+    {
+        draw(area, [](double below, double share) { return below * (1 - share); });
+    }
+
+    TemplateBitmap bitmap() const
+    {
+        TemplateBitmap bitmap { m_side, {} };
+        bitmap.alpha.reserve(m_alpha.size());
+        for (const double alpha : m_alpha)
+            bitmap.alpha.push_back(static_cast<std::uint8_t>(std::lround(alpha * 255)));
+        return bitmap;
+    }
+
+private:
+    template <typename Area, typename Mix>
+    void draw(const Area& area, Mix mix)
+    {
+        auto pixel = m_alpha.begin();
+        for (int y = 0; y < m_side; ++y)
+            for (int x = 0; x < m_side; ++x, ++pixel)
+                *pixel = mix(*pixel, coverage(area, x, y));
+    }
+
+    int m_side;
+    std::vector<double> m_alpha;
+};
+
+void draw(Sheet& sheet, const Mark& mark)
 {
-    const auto painted = [&](const auto& shape) {
-        const double alpha = shape.alpha * coverage(shape, x, y);
-        return alpha + below * (1 - alpha);
-    };
-    return std::visit(Match {
-                          [&](const MenuBarOrbGlyph::Ring& ring) { return painted(ring); },
-                          [&](const MenuBarOrbGlyph::Arc& arc) { return painted(arc); },
-                          [&](const Dot& dot) { return painted(dot); },
-                          [&](const Hole& hole) { return below * (1 - coverage(hole, x, y)); },
-                      },
+    std::visit(Match {
+                   [&](const MenuBarOrbGlyph::Ring& ring) {
+                       const double radius = ring.diameter / 2;
+                       sheet.paint(Band(ring.centre, radius - ring.width, radius), ring.alpha);
+                   },
+                   [&](const MenuBarOrbGlyph::Arc& arc) { sheet.paint(Stroke(arc), arc.alpha); },
+                   [&](const Dot& dot) { sheet.paint(disc(dot.centre, dot.diameter), dot.alpha); },
+                   [&](const Hole& hole) { sheet.wipe(disc(hole.centre, hole.diameter)); },
+               },
         mark);
 }
 
 TemplateBitmap drawn(const std::vector<Mark>& marks, int side)
 {
-    TemplateBitmap bitmap { side, {} };
-    bitmap.alpha.reserve(static_cast<std::size_t>(side) * static_cast<std::size_t>(side));
-    for (int y = 0; y < side; ++y) {
-        for (int x = 0; x < side; ++x) {
-            double alpha = 0;
-            for (const auto& mark : marks)
-                alpha = drawnOver(alpha, mark, x, y);
-            bitmap.alpha.push_back(static_cast<std::uint8_t>(std::lround(alpha * 255)));
-        }
-    }
-    return bitmap;
+    Sheet sheet(side);
+    for (const auto& mark : marks)
+        draw(sheet, mark);
+    return sheet.bitmap();
 }
 
 TemplateBitmap drawn(const MenuBarOrbState& state, int scale)

@@ -1,6 +1,7 @@
 #include "WidgetHost/Tray/TrayGlyph.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "OrvelDesign/Palette.h"
@@ -57,13 +58,12 @@ RGBA trayForeground(const DesktopAppearance& appearance)
 
 std::string trayPixels(const TemplateBitmap& bitmap, const RGBA& foreground)
 {
+    const std::array<char, 3> color { byteOf(foreground.red), byteOf(foreground.green), byteOf(foreground.blue) };
     std::string pixels;
     pixels.reserve(bitmap.alpha.size() * 4);
     for (const auto coverage : bitmap.alpha) {
         pixels += byteOf(coverage / 255.0 * foreground.alpha);
-        pixels += byteOf(foreground.red);
-        pixels += byteOf(foreground.green);
-        pixels += byteOf(foreground.blue);
+        pixels.append(color.data(), color.size());
     }
     return pixels;
 }
