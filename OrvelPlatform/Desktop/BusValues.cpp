@@ -158,7 +158,9 @@ void DictionaryWriter::add(const char* key, Date value)
 
 void DictionaryWriter::add(const char* key, _GVariant* value)
 {
-    g_variant_builder_add(&m_builder->builder, "{sv}", key, value);
+    // Put together by hand: every request has such a dictionary, and formats are read as often as they are used.
+    auto* const entry = g_variant_new_dict_entry(g_variant_new_string(key), g_variant_new_variant(value));
+    g_variant_builder_add_value(&m_builder->builder, entry);
 }
 
 _GVariant* DictionaryWriter::end()

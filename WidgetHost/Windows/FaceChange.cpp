@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
 #include <span>
 
 namespace orvel {
@@ -16,9 +17,9 @@ struct Box {
 
     void addRow(std::size_t y, Row one, Row other)
     {
-        const auto first = std::ranges::mismatch(one, other).in1 - one.begin();
-        if (first == std::ssize(one))
+        if (std::memcmp(one.data(), other.data(), one.size_bytes()) == 0) // most rows are alike, and this is quickest
             return;
+        const auto first = std::ranges::mismatch(one, other).in1 - one.begin();
         auto last = std::ssize(one);
         while (one[static_cast<std::size_t>(last) - 1] == other[static_cast<std::size_t>(last) - 1])
             --last;

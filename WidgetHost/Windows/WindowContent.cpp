@@ -66,6 +66,7 @@ void WindowContent::show(WidgetFace face)
 {
     const bool isFirst = !m_face;
     const auto changed = isFirst ? FaceChange { true, true, true, {} } : change(*m_face, face);
+    const bool isRenamed = isFirst || m_face->name != face.name;
     m_face = std::move(face);
     if (changed.card)
         layOut();
@@ -74,7 +75,8 @@ void WindowContent::show(WidgetFace face)
     if (!changed.card && changed.notice)
         makeNotice();
     repaint(changed);
-    m_toolkit.window().set_title(m_face->name);
+    if (isRenamed)
+        m_toolkit.window().set_title(m_face->name);
     if (!isFirst)
         return;
     outputsChanged();
