@@ -3,6 +3,8 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdint>
+#include <map>
+#include <optional>
 #include <sys/timerfd.h>
 #include <unistd.h>
 #include <utility>
@@ -39,9 +41,10 @@ public:
     {
         const auto whole = floor<seconds>(date.time_since_epoch());
         const auto part = nanoseconds(date.time_since_epoch() - whole);
-        const itimerspec when { .it_interval = {}, .it_value = { .tv_sec = whole.count(), .tv_nsec = part.count() } };
-        ::timerfd_settime(m_file.get(), TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &when, nullptr);
+        set({ .tv_sec = whole.count(), .tv_nsec = part.count() });
     }
+
+    void disarm() const { set({}); }
 
     Event event() const
     {
@@ -57,11 +60,90 @@ public:
     }
 
 private:
+    void set(const timespec& date) const
+    {
+        const itimerspec when { .it_interval = {}, .it_value = date };
+        ::timerfd_settime(m_file.get(), TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &when, nullptr);
+    }
+
     FileDescriptor m_file;
     SourceHandle m_source; // goes before its file
 };
 
 }
+
+/// Everything that is to come at a date, on one timer: often several things are due at the same one, and to make a
+/// timer and to have a loop watch it takes longer than to set one.
+class DesktopClock::Dates {
+public:
+    explicit Dates(const EventLoop& loop)
+    {
+        if (m_timer)
+            m_timer.watch(loop, [this] { wake(); });
+    }
+
+    /// False where the process has too many open files.
+    explicit operator bool() const { return static_cast<bool>(m_timer); }
+
+    class Entry : public Clock::Timer {
+    public:
+        Entry(Dates& dates, Date date, std::function<void()> what) : m_dates(dates), m_what(std::move(what))
+        {
+            m_place = m_dates.m_entries.emplace(date, this);
+            m_dates.arm();
+        }
+        ~Entry() override
+        {
+            if (!m_what)
+                return;
+            m_dates.m_entries.erase(m_place);
+            m_dates.arm();
+        }
+
+        /// Whoever is called may destroy it.
+        void call()
+        {
+            m_dates.m_entries.erase(m_place);
+            std::exchange(m_what, nullptr)();
+        }
+
+    private:
+        Dates& m_dates;
+        std::function<void()> m_what; // empty: it came
+        std::multimap<Date, Entry*>::iterator m_place;
+    };
+
+private:
+    void wake()
+    {
+        if (m_timer.event() == WallTimer::Event::none)
+            return;
+        // Setting the clock cancelled the timer, and may have made any of them due.
+        m_isWaking = true;
+        for (const auto now = orvel::now(); !m_entries.empty() && m_entries.begin()->first <= now;)
+            m_entries.begin()->second->call();
+        m_isWaking = false;
+        m_armed.reset();
+        arm();
+    }
+
+    void arm()
+    {
+        const auto first = m_entries.empty() ? std::nullopt : std::optional(m_entries.begin()->first);
+        if (m_isWaking || std::exchange(m_armed, first) == first)
+            return;
+        first ? m_timer.arm(*first) : m_timer.disarm();
+    }
+
+    WallTimer m_timer;
+    std::multimap<Date, Entry*> m_entries;
+    std::optional<Date> m_armed;
+    bool m_isWaking = false; // it is armed once, when everybody was called
+};
+
+DesktopClock::DesktopClock(const EventLoop& loop) : m_loop(loop) { }
+
+DesktopClock::~DesktopClock() = default;
 
 Date DesktopClock::now() const
 {
@@ -82,20 +164,11 @@ std::unique_ptr<Clock::Timer> DesktopClock::at(Date date, std::function<void()> 
 {
     if (date <= now())
         return after({}, std::move(what));
-    auto timer = std::make_unique<WallTimer>();
-    if (!*timer)
+    if (!m_dates || !*m_dates)
+        m_dates = std::make_unique<Dates>(m_loop);
+    if (!*m_dates)
         return after(date - now(), std::move(what));
-    timer->arm(date);
-    timer->watch(m_loop, [wall = timer.get(), date, called = std::move(what), isDone = false]() mutable {
-        const auto event = wall->event();
-        if (isDone || event == WallTimer::Event::none)
-            return;
-        if (event == WallTimer::Event::clockSet && date > orvel::now())
-            return wall->arm(date);
-        isDone = true;
-        called();
-    });
-    return timer;
+    return std::make_unique<Dates::Entry>(*m_dates, date, std::move(what));
 }
 
 std::unique_ptr<Clock::Timer> DesktopClock::whenSet(std::function<void()> what)

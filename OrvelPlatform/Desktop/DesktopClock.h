@@ -10,7 +10,8 @@ namespace orvel {
 class DesktopClock : public Clock {
 public:
     /// The loop outlives the clock.
-    explicit DesktopClock(const EventLoop& loop) : m_loop(loop) { }
+    explicit DesktopClock(const EventLoop& loop);
+    ~DesktopClock() override;
 
     Date now() const override;
     Uptime uptime() const override;
@@ -22,7 +23,10 @@ public:
     [[nodiscard]] std::unique_ptr<Timer> whenSet(std::function<void()> what);
 
 private:
+    class Dates;
+
     const EventLoop& m_loop;
+    std::unique_ptr<Dates> m_dates; // from the first one on
 };
 
 }

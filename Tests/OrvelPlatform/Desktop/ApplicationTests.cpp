@@ -141,6 +141,27 @@ TEST(DesktopClock, callsWhatIsDueInOrderAndNothingThatWasGivenUp)
     EXPECT_EQ(order, "abcd");
 }
 
+TEST(DesktopClock, callsAllThatAreDueAtOneDateUnlessOneGivesUpAnother)
+{
+    EventLoop loop;
+    DesktopClock clock(loop);
+    std::string order;
+    const auto date = clock.now() + 20ms;
+    std::unique_ptr<Clock::Timer> given, later;
+    const auto first = clock.at(date, [&] {
+        order += 'a';
+        given.reset();
+        later = clock.at(clock.now() + 5ms, [&] { order += 'd'; });
+    });
+    given = clock.at(date, [&] { order += 'x'; });
+    const auto second = clock.at(date, [&] { order += 'b'; });
+    auto earlier = clock.at(date - 10ms, [&] { order += 'y'; });
+    earlier.reset();
+    turnUntil(
+        loop, [&] { return order.ends_with('d'); }, 5s);
+    EXPECT_EQ(order, "abd");
+}
+
 TEST(DesktopClock, aTimerMayEndItself)
 {
     EventLoop loop;
