@@ -72,6 +72,7 @@ struct BusCall::State {
     std::coroutine_handle<> waiting;
     std::optional<Result> result;
     CancellableHandle cancellable { g_cancellable_new() };
+    bool isOver = false;
 
     static void finish(_GObject* connection, _GAsyncResult* outcome, void* data);
 };
@@ -80,6 +81,7 @@ void BusCall::State::finish(_GObject* connection, _GAsyncResult* outcome, void* 
 {
     const std::unique_ptr<std::shared_ptr<State>> taken(static_cast<std::shared_ptr<State>*>(data));
     const auto state = *taken;
+    state->isOver = true;
     ErrorHandle error;
     _GUnixFDList* files = nullptr;
     VariantHandle values(g_dbus_connection_call_with_unix_fd_list_finish(
@@ -105,7 +107,8 @@ BusCall::BusCall(const BusConnection& connection, const Target& target, const ch
 BusCall::~BusCall()
 {
     m_state->waiting = nullptr;
-    g_cancellable_cancel(m_state->cancellable.get());
+    if (!m_state->isOver)
+        g_cancellable_cancel(m_state->cancellable.get());
 }
 
 bool BusCall::await_ready() const

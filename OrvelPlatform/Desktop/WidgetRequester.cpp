@@ -1,5 +1,6 @@
 #include "OrvelPlatform/Desktop/WidgetRequester.h"
 
+#include <algorithm>
 #include <gio/gio.h>
 
 #include "OrvelPlatform/Desktop/BusContract.h"
@@ -16,11 +17,6 @@ using Milliseconds = std::chrono::milliseconds;
 VariantHandle sunk(_GVariant* tuple)
 {
     return VariantHandle(g_variant_ref_sink(tuple));
-}
-
-VariantHandle ofKind(const std::string& kind, const HostEnvironment& environment)
-{
-    return sunk(g_variant_new("(s@a{sv})", boundedText(kind).c_str(), environmentValue(environment)));
 }
 
 _GVariant* platformValue(const IntentPlatform& platform)
@@ -52,6 +48,16 @@ Milliseconds until(Clock::time_point end)
 
 }
 
+_GVariant* EnvironmentValues::of(const HostEnvironment& environment)
+{
+    const auto found = std::ranges::find(m_kept, environment, &Kept::environment);
+    if (found != m_kept.end())
+        return found->value.get();
+    if (m_kept.size() == most)
+        m_kept.erase(m_kept.begin());
+    return m_kept.emplace_back(environment, sunk(environmentValue(environment))).value.get();
+}
+
 WidgetRequester::WidgetRequester(const EventLoop& loop, const RequestDeadlines& deadlines)
     : m_loop(loop), m_deadlines(deadlines)
 {
@@ -59,7 +65,7 @@ WidgetRequester::WidgetRequester(const EventLoop& loop, const RequestDeadlines& 
 
 Task<Answer<std::vector<ExtensionMember>>> WidgetRequester::members(HostEnvironment environment)
 {
-    auto arguments = sunk(g_variant_new("(@a{sv})", environmentValue(environment)));
+    auto arguments = sunk(g_variant_new("(@a{sv})", m_environments.of(environment)));
     return ask<std::vector<ExtensionMember>>("Members", std::move(arguments), "(aa{sv})");
 }
 
@@ -81,7 +87,7 @@ Task<Answer<ExtensionTimeline>> WidgetRequester::timeline(std::string kind, Host
 Task<Answer<HostPicture>> WidgetRequester::render(std::string kind, ExtensionEntry entry, HostEnvironment environment)
 {
     auto arguments = sunk(g_variant_new("(sx@ay@a{sv})", boundedText(kind).c_str(), microseconds(entry.date),
-        bytesValue(entry.moment), environmentValue(environment)));
+        bytesValue(entry.moment), m_environments.of(environment)));
     return ask<HostPicture>("Render", std::move(arguments), "(a{sv})");
 }
 
@@ -111,6 +117,11 @@ Task<Answer<void>> WidgetRequester::perform(std::string intent, IntentParameters
     auto calling = call(std::move(target), "Perform", std::move(arguments), "()", until(end));
     const auto result = co_await calling;
     co_return outcome(result);
+}
+
+VariantHandle WidgetRequester::ofKind(const std::string& kind, const HostEnvironment& environment)
+{
+    return sunk(g_variant_new("(s@a{sv})", boundedText(kind).c_str(), m_environments.of(environment)));
 }
 
 template <typename T>

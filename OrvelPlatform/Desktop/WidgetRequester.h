@@ -19,6 +19,23 @@ struct RequestDeadlines {
     std::chrono::milliseconds performed { 30'000 }; // an intent may wait for the application to start
 };
 
+/// Environments as the bus has them. A host asks in the same few for as long as nothing is set, and each time anew it
+/// would take longer than the rest of a question.
+class EnvironmentValues {
+public:
+    /// The value stays for the caller to take a share of until the next call.
+    _GVariant* of(const HostEnvironment& environment);
+
+private:
+    static constexpr std::size_t most = 16; // a size and a scale each
+
+    struct Kept {
+        HostEnvironment environment;
+        VariantHandle value;
+    };
+    std::vector<Kept> m_kept; // the oldest first
+};
+
 /// A host's side: asks the extension, which the bus starts when it does not run. Every reply is checked as a
 /// stranger's, and every request has an end. Tasks run on the loop, several at once where the host likes; each has to
 /// be over, or destroyed, before the requester is.
@@ -40,6 +57,7 @@ public:
     Task<Answer<void>> perform(std::string intent, IntentParameters parameters, IntentPlatform platform);
 
 private:
+    VariantHandle ofKind(const std::string& kind, const HostEnvironment& environment);
     template <typename T>
     Task<Answer<T>> ask(const char* method, VariantHandle arguments, const char* replyType);
     Task<BusCall::Result> call(BusCall::Target target, const char* method, VariantHandle arguments,
@@ -50,6 +68,7 @@ private:
     const EventLoop& m_loop;
     RequestDeadlines m_deadlines;
     std::optional<BusConnection> m_connection;
+    EnvironmentValues m_environments;
 };
 
 }
