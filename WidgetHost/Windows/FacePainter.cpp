@@ -72,6 +72,28 @@ Rect cardInPixels(const WindowGeometry& geometry)
         std::round(geometry.card.height * geometry.scale) };
 }
 
+/// What the context's clip lets through, in the context's units.
+Rect clipOf(cairo_t* context)
+{
+    double left = 0, top = 0, right = 0, bottom = 0;
+    cairo_clip_extents(context, &left, &top, &right, &bottom);
+    return { left, top, right - left, bottom - top };
+}
+
+bool meet(const Rect& one, const Rect& other)
+{
+    return one.x < other.right() && other.x < one.right() && one.y < other.bottom() && other.y < one.bottom();
+}
+
+/// The radius that has to be drawn: most of what changes lies away from the corners, and rectangles are copied as they
+/// are.
+double radiusWithin(const Rect& clip, const Rect& card, double radius)
+{
+    const bool isBetweenSides = clip.x >= radius && clip.right() <= card.width - radius;
+    const bool isBetweenEnds = clip.y >= radius && clip.bottom() <= card.height - radius;
+    return isBetweenSides || isBetweenEnds ? 0 : radius;
+}
+
 /// A layer as a source or a mask over the whole card. Its pixels are copied where it was made for these.
 using PatternHandle =
     std::unique_ptr<cairo_pattern_t, decltype([](cairo_pattern_t* pattern) { cairo_pattern_destroy(pattern); })>;
@@ -113,12 +135,16 @@ void paintFrame(cairo_t* context, const WindowPictures::Frame& frame, const Pain
     const double room = std::round(painted.geometry.card.x * painted.geometry.scale);
     const auto card = cardInPixels(painted.geometry);
     const auto source = image(frame.picture);
+    const auto clip = clipOf(context);
     for (const auto& [from, to] : frameSlices(frame.corner, { card.width + 2 * room, card.height + 2 * room })) {
+        const Rect place { to.x - room, to.y - room, to.width, to.height };
+        if (!meet(place, clip))
+            continue;
         cairo_save(context);
-        cairo_rectangle(context, to.x - room, to.y - room, to.width, to.height);
+        cairo_rectangle(context, place.x, place.y, place.width, place.height);
         cairo_clip(context);
-        cairo_translate(context, to.x - room, to.y - room);
-        cairo_scale(context, to.width / from.width, to.height / from.height);
+        cairo_translate(context, place.x, place.y);
+        cairo_scale(context, place.width / from.width, place.height / from.height);
         cairo_set_source_surface(context, source.get(), -from.x, -from.y);
         cairo_pattern_set_filter(cairo_get_source(context), CAIRO_FILTER_NEAREST);
         cairo_paint(context);
@@ -175,7 +201,7 @@ void paint(cairo_t* context, const PaintedFace& painted)
     const auto card = cardInPixels(geometry);
     {
         const CardPixels pixels(context, geometry);
-        const double radius = geometry.radius * geometry.scale;
+        const double radius = radiusWithin(clipOf(context), card, geometry.radius * geometry.scale);
         if (ground.fill) {
             addRounded(context, card, radius);
             setColor(context, *ground.fill);

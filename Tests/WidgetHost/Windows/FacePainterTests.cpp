@@ -17,18 +17,28 @@ namespace {
 class PaintedWindow {
 public:
     PaintedWindow(const WidgetFace& face, double scale, bool isComposited = true)
-        : m_geometry(windowGeometry(face, scale, isComposited))
+        : m_face(face)
+        , m_isComposited(isComposited)
+        , m_geometry(windowGeometry(face, scale, isComposited))
         , m_surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, static_cast<int>(m_geometry.window.width * scale),
               static_cast<int>(m_geometry.window.height * scale)))
     {
         cairo_surface_set_device_scale(m_surface.get(), scale, scale);
+        repaint({ {}, m_geometry.window }, { 1, 0, 1, 1 }); // what was there before
+    }
+
+    /// Once more, the part within some points of the window; before, they are filled.
+    void repaint(const Rect& part, const Color& before)
+    {
         const CairoHandle context(cairo_create(m_surface.get()));
-        cairo_set_source_rgb(context.get(), 1, 0, 1); // what was there before
+        cairo_rectangle(context.get(), part.x, part.y, part.width, part.height);
+        cairo_clip(context.get());
+        cairo_set_source_rgb(context.get(), before.red, before.green, before.blue);
         cairo_paint(context.get());
         paint(context.get(),
-            { .face = face,
+            { .face = m_face,
                 .geometry = m_geometry,
-                .ground = cardGround(face, isComposited),
+                .ground = cardGround(m_face, m_isComposited),
                 .frame = nullptr,
                 .pictures = {},
                 .isRingedInside = false,
@@ -47,7 +57,17 @@ public:
         return pixel;
     }
 
+    std::string pixels() const
+    {
+        const auto* first = reinterpret_cast<const char*>(cairo_image_surface_get_data(m_surface.get()));
+        return { first,
+            static_cast<std::size_t>(cairo_image_surface_get_stride(m_surface.get()))
+                * static_cast<std::size_t>(cairo_image_surface_get_height(m_surface.get())) };
+    }
+
 private:
+    const WidgetFace& m_face;
+    bool m_isComposited;
     WindowGeometry m_geometry;
     SurfaceHandle m_surface;
 };
@@ -90,6 +110,29 @@ TEST(Pictures, fillTheirWindowWhereNothingShinesThrough)
     const PaintedWindow window(face({ 120, 90 }, shared(picture(120, 90, &chequered))), 1, false);
     EXPECT_EQ(window.at(0, 0), chequered(0, 0));
     EXPECT_EQ(window.at(119, 89), chequered(119, 89));
+}
+
+TEST(Pictures, lookTheSamePaintedInParts)
+{
+    constexpr double room = WindowGeometry::roomForShadow;
+    const Rect parts[] = {
+        { room + 30, room + 30, 40, 20 }, // in the middle
+        { room, room + 30, 10, 30 }, // at an end
+        { room + 40, 0, 30, 90 + 2 * room }, // across, between the corners
+        { room, room, 15, 15 }, // a corner
+        { room + 100, room + 50, 40, 60 }, // a corner and what is round it
+    };
+    auto shown = face({ 120, 90 }, shared(picture(120, 90, &chequered)));
+    for (const bool isTinted : { false, true }) {
+        if (isTinted)
+            shown.tint = WindowTint { { 1, 0, 0 }, { 0, 0, 1 } };
+        PaintedWindow window(shown, 1);
+        const auto whole = window.pixels();
+        for (const auto& part : parts) {
+            window.repaint(part, { 0, 1, 0, 1 });
+            EXPECT_TRUE(window.pixels() == whole) << part.x << ", " << part.y << (isTinted ? ", tinted" : "");
+        }
+    }
 }
 
 TEST(Pictures, ofAnotherScaleStillFillTheCard)
