@@ -19,8 +19,7 @@ struct RequestDeadlines {
     std::chrono::milliseconds performed { 30'000 }; // an intent may wait for the application to start
 };
 
-/// Environments as the bus has them. A host asks in the same few for as long as nothing is set, and each time anew it
-/// would take longer than the rest of a question.
+/// Environments as the bus has them: a host asks in the same few for as long as nothing is set.
 class EnvironmentValues {
 public:
     /// The value stays for the caller to take a share of until the next call.

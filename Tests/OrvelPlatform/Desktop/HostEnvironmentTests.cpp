@@ -5,6 +5,7 @@
 
 #include "OrvelPlatform/Desktop/GlibHandles.h"
 #include "OrvelPlatform/Desktop/HostEnvironmentCoding.h"
+#include "OrvelPlatform/Desktop/WidgetRequester.h"
 
 namespace orvel {
 
@@ -43,6 +44,18 @@ TEST(HostEnvironment, survivesTheWayThroughTheBus)
         const auto back = hostEnvironment(value.get());
         ASSERT_TRUE(back) << back.error().sentence;
         EXPECT_EQ(*back, environment);
+    }
+}
+
+TEST(HostEnvironment, isKeptAsItIsWhicheverWereAskedInBefore)
+{
+    EnvironmentValues values;
+    for (int round = 0; round < 2; ++round) {
+        for (int size = 0; size < 40; ++size) {
+            const HostEnvironment environment { .family = std::to_string(size % 25), .scale = 1.0 + size % 2 };
+            EXPECT_EQ(hostEnvironment(values.of(environment)), environment) << size;
+            EXPECT_EQ(values.of(environment), values.of(environment)) << "not made anew";
+        }
     }
 }
 
