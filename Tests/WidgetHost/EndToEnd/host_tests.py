@@ -23,6 +23,7 @@ from neighbours import Neighbours  # noqa: E402
 
 PROGRAMS = pathlib.Path(sys.argv.pop(1)).resolve()
 STATUS, BREATHE = "app.orvel.widget.status", "app.orvel.widget.breathe"
+HOST = "app.orvel.WidgetHost"  # its name on the bus
 GAP = 24  # points, between the screen's corner and the first widget that nobody placed
 SLOW = 20  # seconds; sanitizers and busy machines take their time
 
@@ -94,6 +95,8 @@ class Screen:
         self.desktop.run("xdotool", "mousemove", x, y, "sleep", "0.2", "click", button, check=True)
 
     def ask(self, *options):
+        """A second call of the program; before the first has its name, this one would be the host."""
+        wait_for(lambda: self.host.poll() is not None or self.neighbours.ask_bus("NameHasOwner", "(s)", HOST), SLOW)
         return self.desktop.run(PROGRAMS / "orvel-widget-host", *options, capture_output=True)
 
 
